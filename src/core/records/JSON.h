@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Codec.h"
+
+#include <QByteArray>
+#include <QJsonDocument>
+#include <QJsonParseError>
+
+// The shared encoder and decoder: keys sorted, dates to the second on the way out,
+// dates with or without a fraction on the way in.
+namespace quorvane::JSON {
+
+// Compact, with object keys in sorted order.
+[[nodiscard]] QByteArray encode(const QJsonValue &value);
+
+template<class T>
+[[nodiscard]] QByteArray encode(const T &record)
+{
+    return encode(toJson(record));
+}
+
+// Parses any JSON text (a bare value at the top too). Syntax errors become a DecodeError.
+[[nodiscard]] Result<QJsonValue> parse(const QByteArray &bytes);
+
+template<class T>
+[[nodiscard]] Result<T> decode(const QByteArray &bytes)
+{
+    Result<QJsonValue> value = parse(bytes);
+    if (!value)
+        return value.error();
+    return fromJson<T>(*value);
+}
+
+} // namespace quorvane::JSON

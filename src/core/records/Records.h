@@ -1,0 +1,20 @@
+#pragma once
+
+// Every record of the wire, for code that wants them all.
+#include "Account.h"
+#include "Answer.h"
+#include "Booking.h"
+#include "BookingStatus.h"
+#include "CalendarItem.h"
+#include "DayAvailability.h"
+#include "EventType.h"
+#include "FocusBlock.h"
+#include "GoogleStatus.h"
+#include "HostSettings.h"
+#include "MeetingLocation.h"
+#include "Poll.h"
+#include "ReleaseInfo.h"
+#include "Slot.h"
+#include "SlotList.h"
+#include "Snapshot.h"
+#include "TimeRange.h"
