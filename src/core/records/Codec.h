@@ -17,7 +17,7 @@ namespace quorvane {
 class CodingPath
 {
 public:
-    [[nodiscard]] CodingPath key(QStringView name) const;
+    [[nodiscard]] CodingPath key(const QString &name) const;
     [[nodiscard]] CodingPath index(qsizetype i) const;
     [[nodiscard]] const QString &toString() const { return m_text; }
 

@@ -11,7 +11,7 @@ using Instant = QDateTime;
 // 0001-01-01T00:00:00Z: the moment before everything, for new snapshots and trackers.
 inline Instant distantPast()
 {
-    return QDateTime(QDate(1, 1, 1), QTime(0, 0), QTimeZone::UTC);
+    return QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC);
 }
 
 } // namespace quorvane

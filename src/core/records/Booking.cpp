@@ -1,0 +1,69 @@
+#include "Booking.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane {
+
+std::optional<QUrl> Booking::meetURL() const
+{
+    if (!meet || meet->isEmpty())
+        return std::nullopt;
+    const QUrl url(*meet, QUrl::StrictMode);
+    if (!url.isValid())
+        return std::nullopt;
+    return url;
+}
+
+size_t qHash(const Booking &b, size_t seed)
+{
+    return hashFields(seed, b.id, b.type, b.start, b.end, b.name, b.email, b.tz, b.notes, b.status, b.meet,
+                      b.inCalendar, b.created, b.updated, b.noShow, b.answers);
+}
+
+Booking Codec<Booking>::decode(const QJsonValue &value, const CodingPath &path)
+{
+    const ObjectReader r(value, path);
+    Booking b;
+    b.id = r.required<QString>("id"_L1);
+    b.type = r.required<QString>("type"_L1);
+    b.start = r.required<Instant>("start"_L1);
+    b.end = r.required<Instant>("end"_L1);
+    b.name = r.required<QString>("name"_L1);
+    b.email = r.required<QString>("email"_L1);
+    b.tz = r.required<QString>("tz"_L1);
+    b.notes = r.optional<QString>("notes"_L1);
+    // The key must be there; whatever it holds decodes, null included.
+    if (!r.object().contains("status"_L1))
+        codec::fail(path.key(u"status"_s), u"No value for required key \"status\""_s);
+    b.status = Codec<BookingStatus>::decode(r.object().value("status"_L1), path.key(u"status"_s));
+    b.meet = r.optional<QString>("meet"_L1);
+    b.inCalendar = r.optional<bool>("inCalendar"_L1);
+    b.created = r.optional<Instant>("created"_L1);
+    b.updated = r.optional<Instant>("updated"_L1);
+    b.noShow = r.optional<bool>("noShow"_L1);
+    b.answers = r.optional<QList<Answer>>("answers"_L1);
+    return b;
+}
+
+QJsonValue Codec<Booking>::encode(const Booking &b)
+{
+    return ObjectWriter()
+        .set("id"_L1, b.id)
+        .set("type"_L1, b.type)
+        .set("start"_L1, b.start)
+        .set("end"_L1, b.end)
+        .set("name"_L1, b.name)
+        .set("email"_L1, b.email)
+        .set("tz"_L1, b.tz)
+        .set("notes"_L1, b.notes)
+        .set("status"_L1, b.status)
+        .set("meet"_L1, b.meet)
+        .set("inCalendar"_L1, b.inCalendar)
+        .set("created"_L1, b.created)
+        .set("updated"_L1, b.updated)
+        .set("noShow"_L1, b.noShow)
+        .set("answers"_L1, b.answers)
+        .object();
+}
+
+} // namespace quorvane

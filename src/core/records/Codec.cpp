@@ -1,0 +1,114 @@
+#include "Codec.h"
+
+#include "ISO.h"
+
+#include <cmath>
+#include <limits>
+
+namespace quorvane {
+
+CodingPath CodingPath::key(const QString &name) const
+{
+    CodingPath next;
+    next.m_text = m_text.isEmpty() ? name : m_text + u'.' + name;
+    return next;
+}
+
+CodingPath CodingPath::index(qsizetype i) const
+{
+    CodingPath next;
+    next.m_text = m_text + u'[' + QString::number(i) + u']';
+    return next;
+}
+
+namespace codec {
+
+void fail(const CodingPath &path, const QString &reason)
+{
+    throw DecodeFailure{path.toString(), reason};
+}
+
+QString typeName(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::Null:
+        return QStringLiteral("null");
+    case QJsonValue::Bool:
+        return QStringLiteral("a boolean");
+    case QJsonValue::Double:
+        return QStringLiteral("a number");
+    case QJsonValue::String:
+        return QStringLiteral("a string");
+    case QJsonValue::Array:
+        return QStringLiteral("an array");
+    case QJsonValue::Object:
+        return QStringLiteral("an object");
+    case QJsonValue::Undefined:
+        break;
+    }
+    return QStringLiteral("nothing");
+}
+
+void typeMismatch(const CodingPath &path, const char *expected, const QJsonValue &found)
+{
+    fail(path, QStringLiteral("Expected %1 but found %2 instead.").arg(QLatin1StringView(expected), typeName(found)));
+}
+
+} // namespace codec
+
+QString Codec<QString>::decode(const QJsonValue &v, const CodingPath &path)
+{
+    if (!v.isString())
+        codec::typeMismatch(path, "a string", v);
+    return v.toString();
+}
+
+qint64 Codec<qint64>::decode(const QJsonValue &v, const CodingPath &path)
+{
+    if (!v.isDouble())
+        codec::typeMismatch(path, "an integer", v);
+    const double d = v.toDouble();
+    // 2^63 itself is out of range, hence the strict comparison.
+    if (!std::isfinite(d) || std::trunc(d) != d || d < -9223372036854775808.0 || d >= 9223372036854775808.0)
+        codec::fail(path, QStringLiteral("Parsed JSON number <%1> does not fit in Int.").arg(d));
+    return v.toInteger(qint64(d));
+}
+
+int Codec<int>::decode(const QJsonValue &v, const CodingPath &path)
+{
+    const qint64 wide = Codec<qint64>::decode(v, path);
+    if (wide < std::numeric_limits<int>::min() || wide > std::numeric_limits<int>::max())
+        codec::fail(path, QStringLiteral("Parsed JSON number <%1> does not fit in Int.").arg(wide));
+    return int(wide);
+}
+
+bool Codec<bool>::decode(const QJsonValue &v, const CodingPath &path)
+{
+    if (!v.isBool())
+        codec::typeMismatch(path, "a boolean", v);
+    return v.toBool();
+}
+
+QDateTime Codec<QDateTime>::decode(const QJsonValue &v, const CodingPath &path)
+{
+    const QString text = Codec<QString>::decode(v, path);
+    std::optional<Instant> instant = ISO::parse(text);
+    if (!instant)
+        codec::fail(path, QStringLiteral("Bad date %1").arg(text));
+    return *instant;
+}
+
+QJsonValue Codec<QDateTime>::encode(const QDateTime &d)
+{
+    return ISO::secondsString(d);
+}
+
+ObjectReader::ObjectReader(const QJsonValue &value, const CodingPath &path)
+    : m_path(path)
+{
+    if (!value.isObject())
+        codec::typeMismatch(path, "an object", value);
+    m_object = value.toObject();
+}
+
+} // namespace quorvane
