@@ -1,0 +1,100 @@
+#include "ISO.h"
+#include "JSON.h"
+#include "Records.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+
+class TestWire : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isoParse_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("utc"); // empty: no value
+        QTest::newRow("zulu") << u"2026-03-10T14:00:00Z"_s << u"2026-03-10T14:00:00.000Z"_s;
+        QTest::newRow("fraction") << u"2026-03-10T14:00:00.25Z"_s << u"2026-03-10T14:00:00.250Z"_s;
+        QTest::newRow("long fraction") << u"2026-03-10T14:00:00.123456Z"_s << u"2026-03-10T14:00:00.123Z"_s;
+        QTest::newRow("offset") << u"2026-03-10T09:00:00-05:00"_s << u"2026-03-10T14:00:00.000Z"_s;
+        QTest::newRow("offset across midnight") << u"2026-03-10T01:30:00+02:00"_s << u"2026-03-09T23:30:00.000Z"_s;
+        QTest::newRow("no zone") << u"2026-03-10T14:00:00"_s << QString();
+        QTest::newRow("offset without colon") << u"2026-03-10T14:00:00+0100"_s << QString();
+        QTest::newRow("date only") << u"2026-03-10"_s << QString();
+        QTest::newRow("impossible day") << u"2026-02-30T10:00:00Z"_s << QString();
+        QTest::newRow("space instead of T") << u"2026-03-10 14:00:00Z"_s << QString();
+        QTest::newRow("empty") << QString() << QString();
+    }
+    void isoParse()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, utc);
+        const std::optional<Instant> parsed = ISO::parse(text);
+        QCOMPARE(parsed.has_value(), !utc.isEmpty());
+        if (parsed)
+            QCOMPARE(ISO::string(*parsed), utc);
+    }
+
+    void threeDatePaths()
+    {
+        const Instant t = *ISO::parse(u"2026-03-10T14:00:05.789Z"_s);
+        QCOMPARE(ISO::string(t), u"2026-03-10T14:00:05.789Z"_s);
+        QCOMPARE(ISO::secondsString(t), u"2026-03-10T14:00:05Z"_s);
+        QCOMPARE(JSON::encode(toJson(t)), QByteArray("\"2026-03-10T14:00:05Z\""));
+        // A zone other than UTC still goes out in UTC.
+        QCOMPARE(ISO::string(t.toTimeZone(QTimeZone("Asia/Tokyo"))), u"2026-03-10T14:00:05.789Z"_s);
+    }
+
+    void badDateNamesTheText()
+    {
+        const Result<Slot> s =
+            JSON::decode<Slot>(R"({"start":"2026-03-10 14:00","end":"2026-03-10T14:30:00Z","score":1})");
+        QVERIFY(!s.ok());
+        QCOMPARE(s.error().reason, u"Bad date 2026-03-10 14:00"_s);
+        QCOMPARE(s.error().description(), u"start: Bad date 2026-03-10 14:00"_s);
+        // A date that isn't a text at all is a type failure, not a bad date.
+        const Result<Slot> n = JSON::decode<Slot>(R"({"start":5,"end":"2026-03-10T14:30:00Z","score":1})");
+        QVERIFY(!n.ok());
+        QVERIFY(!n.error().reason.startsWith(u"Bad date"_s));
+    }
+
+    void encoderSortsKeysAndOmitsMissingOptionals()
+    {
+        Booking b;
+        b.id = u"b1"_s;
+        b.type = u"intro"_s;
+        b.start = *ISO::parse(u"2026-03-10T14:00:00.900Z"_s);
+        b.end = *ISO::parse(u"2026-03-10T14:30:00Z"_s);
+        b.name = u"Ann"_s;
+        b.email = u"ann@example.com"_s;
+        b.tz = u"UTC"_s;
+        b.noShow = false;
+        QCOMPARE(JSON::encode(b),
+                 QByteArray(R"({"email":"ann@example.com","end":"2026-03-10T14:30:00Z","id":"b1","name":"Ann",)"
+                            R"("noShow":false,"start":"2026-03-10T14:00:00Z","status":"pending","type":"intro","tz":"UTC"})"));
+    }
+
+    void parseRejectsGarbage()
+    {
+        QVERIFY(!JSON::parse("").ok());
+        QVERIFY(!JSON::parse("{\"a\":").ok());
+        QVERIFY(!JSON::parse("<html>").ok());
+        QCOMPARE(JSON::parse("\"text\"")->toString(), u"text"_s);
+        QCOMPARE(JSON::parse("12")->toInt(), 12);
+        QVERIFY(JSON::parse("[1,2]")->isArray());
+    }
+
+    void nestedPathsInErrors()
+    {
+        const Result<Snapshot> s = JSON::decode<Snapshot>(R"({"upcoming":[{"id":"x"}],"history":[],"polls":[],
+            "savedAt":"2026-03-10T14:00:00Z"})");
+        QVERIFY(!s.ok());
+        QVERIFY2(s.error().path.startsWith(u"upcoming[0]."_s), qPrintable(s.error().path));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestWire)
+#include "tst_wire.moc"
