@@ -1,0 +1,76 @@
+#include "HoursCommand.h"
+
+#include "AvailabilityMath.h"
+#include "JSON.h"
+#include "NLAvailability.h"
+#include "Output.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane::cli::HoursCommand {
+
+namespace {
+
+QString dayName(int weekday)
+{
+    static const QStringList names{u"Sun"_s, u"Mon"_s, u"Tue"_s, u"Wed"_s, u"Thu"_s, u"Fri"_s, u"Sat"_s};
+    return names.value(weekday - 1, QString::number(weekday));
+}
+
+// Sunday (1) goes after Saturday (7).
+int mondayFirst(int weekday)
+{
+    return (weekday + 5) % 7;
+}
+
+} // namespace
+
+QStringList readableLines(const QList<DayAvailability> &days)
+{
+    QList<DayAvailability> ordered = days;
+    std::stable_sort(ordered.begin(), ordered.end(), [](const DayAvailability &a, const DayAvailability &b) {
+        return mondayFirst(a.weekday) < mondayFirst(b.weekday);
+    });
+    QStringList lines;
+    for (const DayAvailability &day : std::as_const(ordered)) {
+        QStringList ranges;
+        for (const TimeRange &range : day.ranges)
+            ranges.append(AvailabilityMath::label(range.start) + u'\u2013' + AvailabilityMath::label(range.end));
+        lines.append(dayName(day.weekday) + u' ' + ranges.join(u", "_s));
+    }
+    return lines;
+}
+
+int run(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Prints the weekly hours that a typed sentence would set, "
+                                      "such as \"weekdays 9-5, fri 9am-1pm\"."_s);
+    parser.addHelpOption();
+    const QCommandLineOption json(u"json"_s, u"Print the days as one line of JSON."_s);
+    parser.addOption(json);
+    parser.addPositionalArgument(u"hours"_s, u"This command."_s, u"hours"_s);
+    parser.addPositionalArgument(u"text"_s, u"The sentence; several words are joined with blanks."_s,
+                                 u"TEXT..."_s);
+    parser.process(QStringList{u"quorvanectl"_s} + arguments);
+
+    const QStringList words = parser.positionalArguments().mid(1);
+    if (words.isEmpty()) {
+        Output::error(u"quorvanectl hours: missing TEXT (see quorvanectl hours --help)"_s);
+        return 2;
+    }
+    const QList<DayAvailability> days = NLAvailability::parse(words.join(u' '));
+    if (parser.isSet(json)) {
+        Output::line(QString::fromUtf8(JSON::encode(toJson(days))));
+        return 0;
+    }
+    for (const QString &line : readableLines(days))
+        Output::line(line);
+    return 0;
+}
+
+} // namespace quorvane::cli::HoursCommand
