@@ -1,0 +1,127 @@
+#include "Formats.h"
+
+#include "ICUBridge.h"
+
+#include <QHash>
+
+#include <unicode/dtfmtsym.h>
+#include <unicode/dtptngen.h>
+#include <unicode/reldatefmt.h>
+#include <unicode/smpdtfmt.h>
+
+namespace quorvane::Formats {
+
+namespace {
+
+using ICUBridge::fromICU;
+using ICUBridge::toICU;
+
+// Building a pattern generator or a formatter costs far more than formatting with one, and
+// lists format hundreds of rows with the same few settings.
+icu::SimpleDateFormat *cachedFormatter(const QString &skeleton, const QString &locale, const QString &zone)
+{
+    thread_local QHash<QString, std::shared_ptr<icu::SimpleDateFormat>> cache;
+    const QString key = skeleton + u'|' + locale + u'|' + zone;
+    if (auto found = cache.constFind(key); found != cache.cend())
+        return found->get();
+
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Locale icuLocale = ICUBridge::locale(locale);
+    auto formatter = std::make_shared<icu::SimpleDateFormat>(toICU(pattern(skeleton, locale)), icuLocale, status);
+    if (U_FAILURE(status))
+        return nullptr;
+    formatter->adoptTimeZone(ICUBridge::zone(zone).release());
+    if (cache.size() >= 64)
+        cache.clear();
+    cache.insert(key, formatter);
+    return formatter.get();
+}
+
+UDate toUDate(const Instant &instant)
+{
+    return UDate(instant.toMSecsSinceEpoch());
+}
+
+} // namespace
+
+QString pattern(const QString &skeleton, const QString &locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(ICUBridge::locale(locale), status));
+    if (U_FAILURE(status))
+        return skeleton;
+    const icu::UnicodeString best = generator->getBestPattern(toICU(skeleton), status);
+    return U_SUCCESS(status) ? fromICU(best) : skeleton;
+}
+
+QString format(const Instant &instant, const QString &skeleton, const QString &locale, const QString &zone)
+{
+    icu::SimpleDateFormat *formatter = cachedFormatter(skeleton, locale, zone);
+    if (!formatter || !instant.isValid())
+        return {};
+    icu::UnicodeString out;
+    formatter->format(toUDate(instant), out);
+    return fromICU(out);
+}
+
+bool isKnownZone(const QString &zone)
+{
+    return !ICUBridge::isUnknown(*ICUBridge::zone(zone));
+}
+
+bool isDaylightTime(const QString &zone, const Instant &instant)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    int32_t raw = 0;
+    int32_t dst = 0;
+    ICUBridge::zone(zone)->getOffset(toUDate(instant), false, raw, dst, status);
+    return U_SUCCESS(status) && dst != 0;
+}
+
+std::optional<QString> zoneShortName(const QString &zone, bool daylight, const QString &locale)
+{
+    const std::unique_ptr<icu::TimeZone> tz = ICUBridge::zone(zone);
+    if (ICUBridge::isUnknown(*tz))
+        return std::nullopt;
+    icu::UnicodeString name;
+    tz->getDisplayName(daylight, icu::TimeZone::SHORT, ICUBridge::locale(locale), name);
+    if (name.isEmpty())
+        return std::nullopt;
+    return fromICU(name);
+}
+
+QString relativeDay(int days, const QString &locale, Capitalization capitalization)
+{
+    const UDisplayContext context = capitalization == Capitalization::startOfSentence
+        ? UDISPCTX_CAPITALIZATION_FOR_BEGINNING_OF_SENTENCE
+        : UDISPCTX_CAPITALIZATION_FOR_MIDDLE_OF_SENTENCE;
+    UErrorCode status = U_ZERO_ERROR;
+    icu::RelativeDateTimeFormatter formatter(ICUBridge::locale(locale), nullptr, UDAT_STYLE_LONG, context, status);
+    if (U_FAILURE(status))
+        return {};
+    icu::UnicodeString out;
+    formatter.format(double(days), UDAT_REL_UNIT_DAY, out, status);
+    return U_SUCCESS(status) ? fromICU(out) : QString();
+}
+
+QStringList weekdaySymbols(const QString &locale, WeekdayWidth width, bool standalone)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::DateFormatSymbols symbols(ICUBridge::locale(locale), status);
+    if (U_FAILURE(status))
+        return {};
+    const auto icuWidth = width == WeekdayWidth::narrow ? icu::DateFormatSymbols::NARROW
+        : width == WeekdayWidth::abbreviated           ? icu::DateFormatSymbols::ABBREVIATED
+                                                       : icu::DateFormatSymbols::WIDE;
+    const auto context = standalone ? icu::DateFormatSymbols::STANDALONE : icu::DateFormatSymbols::FORMAT;
+    int32_t count = 0;
+    const icu::UnicodeString *names = symbols.getWeekdays(count, context, icuWidth);
+    QStringList out;
+    // ICU's array is indexed by UCAL_SUNDAY (1) .. UCAL_SATURDAY (7); slot 0 is empty.
+    for (int32_t day = UCAL_SUNDAY; day <= UCAL_SATURDAY && day < count; ++day)
+        out.append(fromICU(names[day]));
+    return out;
+}
+
+} // namespace quorvane::Formats
