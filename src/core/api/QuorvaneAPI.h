@@ -1,0 +1,69 @@
+#pragma once
+
+#include "BookingChanges.h"
+#include "Cancellation.h"
+#include "HTTPTransport.h"
+#include "Records.h"
+
+#include <QCoroTask>
+#include <QJsonObject>
+#include <QMap>
+#include <QUrl>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace quorvane {
+
+// The client's whole conversation with the server. A cheap value: make a fresh one at
+// each use, so that a changed server URL or token counts at the next request.
+//
+// Every operation is a coroutine that throws on failure:
+//   APIError    the typed failure (not signed in, unauthorized, offline, rate limited,
+//               server status, undecodable answer);
+//   Cancelled   `cancellation` was cancelled; not a failure to show to the user;
+//   JSONFailure only from saveSettings(), whose answer is not wrapped in an APIError.
+// A GET is tried twice with a pause of 0.6 s between; a write is tried once, since a
+// repeated write could take effect twice.
+struct QuorvaneAPI {
+    using TokenProvider = std::function<std::optional<QString>()>;
+    using Query = QMap<QString, QString>; // goes out sorted by key
+
+    QUrl base;                               // the server root; paths are appended to it
+    TokenProvider token;                     // asked once per request
+    std::shared_ptr<HTTPTransport> transport;
+    Cancellation cancellation{};
+
+    static constexpr std::chrono::milliseconds retryPause{600}; // times the try number
+
+    // The one routine below every operation: adds the token and the client's name, maps
+    // statuses to APIError and retries what is safe to retry. Gives the body of a 2xx.
+    [[nodiscard]] QCoro::Task<QByteArray> request(QString path, QByteArray method, Query query = {},
+                                                  std::optional<QByteArray> body = {}, int attempts = 1) const;
+    // Sends `body` as a JSON object, once; gives back the answer's body.
+    [[nodiscard]] QCoro::Task<QByteArray> post(QString path, QJsonObject body,
+                                               QByteArray method = QByteArrayLiteral("POST")) const;
+
+    [[nodiscard]] QCoro::Task<Account> me() const;
+    [[nodiscard]] QCoro::Task<HostSettings> settings() const;
+    // Gives the settings as the server stored them.
+    [[nodiscard]] QCoro::Task<HostSettings> saveSettings(HostSettings settings) const;
+    [[nodiscard]] QCoro::Task<QList<Booking>> upcoming() const;
+    [[nodiscard]] QCoro::Task<QList<Booking>> history(Instant from) const;
+    [[nodiscard]] QCoro::Task<BookingChanges> changes(Instant since) const;
+    [[nodiscard]] QCoro::Task<GoogleStatus> google() const;
+    [[nodiscard]] QCoro::Task<QList<Poll>> polls() const;
+    [[nodiscard]] QCoro::Task<SlotList> slots(QString type, int days, QString tz) const;
+    [[nodiscard]] QCoro::Task<void> cancel(QString id) const;
+    [[nodiscard]] QCoro::Task<void> setNoShow(QString id, bool value) const;
+    // The new poll's public link, if the answer names one.
+    [[nodiscard]] QCoro::Task<std::optional<QString>> createPoll(QString title, QString type) const;
+    [[nodiscard]] QCoro::Task<void> deletePoll(QString id) const;
+    // Where to send the browser to connect Google Calendar, if the answer names it.
+    [[nodiscard]] QCoro::Task<std::optional<QUrl>> connectLink() const;
+    [[nodiscard]] QCoro::Task<void> disconnectGoogle() const;
+};
+
+} // namespace quorvane
