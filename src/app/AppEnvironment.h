@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+#include <memory>
+
+namespace quorvane {
+
+class Clipboard;
+class Clock;
+class HTTPTransport;
+class Notifier;
+class Preferences;
+class SecretStore;
+class UrlOpener;
+class WakeMonitor;
+
+// Everything the model works with, built and owned by main.cpp (or by a test).
+// The pointers must outlive the model.
+struct AppEnvironment {
+    struct Timings {
+        std::chrono::milliseconds tick{60'000};
+        std::chrono::milliseconds toast{2'200};
+        std::chrono::milliseconds saveDebounce{900};
+    };
+
+    Clock *clock = nullptr;
+    std::shared_ptr<HTTPTransport> transport;
+    SecretStore *secrets = nullptr;
+    Notifier *notifier = nullptr;
+    Preferences *preferences = nullptr;
+    UrlOpener *opener = nullptr;
+    Clipboard *clipboard = nullptr;
+    WakeMonitor *wake = nullptr; // optional: no wake refresh without it
+    QString dataDirectory;       // $XDG_DATA_HOME/Quorvane; never created by the model itself
+    QString locale;              // ICU locale name, such as "en_US"
+    QString zone;                // IANA zone of the user, such as "Europe/Berlin"
+    Timings timings;
+};
+
+} // namespace quorvane
