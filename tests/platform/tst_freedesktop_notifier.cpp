@@ -1,5 +1,5 @@
 #include "FixedClock.h"
-#include "FreedesktopNotifier.h"
+#include "linux/FreedesktopNotifier.h"
 #include "support/FakeNotificationServer.h"
 #include "support/PrivateBus.h"
 

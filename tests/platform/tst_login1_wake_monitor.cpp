@@ -1,4 +1,4 @@
-#include "Login1WakeMonitor.h"
+#include "linux/Login1WakeMonitor.h"
 #include "support/PrivateBus.h"
 
 #include <QDBusConnectionInterface>

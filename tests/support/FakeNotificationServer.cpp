@@ -39,24 +39,9 @@ uint FakeNotificationServer::Notify(const QString &appName, uint replacesID, con
     return id;
 }
 
-void FakeNotificationServer::CloseNotification(uint id)
-{
-    m_closeRequests.append(id);
-    if (m_showing.remove(id))
-        emitSignal(QStringLiteral("NotificationClosed"), {id, 3u});
-}
-
 QStringList FakeNotificationServer::GetCapabilities()
 {
     return m_capabilities;
-}
-
-QString FakeNotificationServer::GetServerInformation(QString &vendor, QString &version, QString &specVersion)
-{
-    vendor = QStringLiteral("Quorvane tests");
-    version = QStringLiteral("1");
-    specVersion = QStringLiteral("1.2");
-    return QStringLiteral("fake");
 }
 
 void FakeNotificationServer::invokeAction(uint id, const QString &action, const QString &activationToken)

@@ -37,7 +37,6 @@ public:
     void stop();
 
     [[nodiscard]] const QList<Call> &calls() const { return m_calls; }
-    [[nodiscard]] const QList<uint> &closeRequests() const { return m_closeRequests; }
 
     void invokeAction(uint id, const QString &action, const QString &activationToken = {});
     // The user dismissed it (reason 2) or it expired (1).
@@ -46,9 +45,7 @@ public:
 public Q_SLOTS:
     uint Notify(const QString &appName, uint replacesID, const QString &appIcon, const QString &summary,
                 const QString &body, const QStringList &actions, const QVariantMap &hints, int expireTimeout);
-    void CloseNotification(uint id);
     QStringList GetCapabilities();
-    QString GetServerInformation(QString &vendor, QString &version, QString &specVersion);
 
 private:
     void emitSignal(const QString &name, const QVariantList &arguments);
@@ -56,7 +53,6 @@ private:
     QDBusConnection m_connection;
     QStringList m_capabilities;
     QList<Call> m_calls;
-    QList<uint> m_closeRequests;
     QSet<uint> m_showing;
     uint m_nextID = 1;
 };
