@@ -154,12 +154,9 @@ void NotificationPlanTest::announcement_data()
     QTest::newRow("cancelled") << false << QStringLiteral("https://meet.google.com/x") << locale << zone
                                << QStringLiteral("chg-b1-c") << QStringLiteral("Cancelled: Ann Lee")
                                << QStringLiteral("Intro Call \u00B7 Tue, Mar 4, 3:00\u202FPM was cancelled");
-    QTest::newRow("another zone, another day") << true << QString() << locale << QStringLiteral("Asia/Tokyo")
-                                               << QStringLiteral("chg-b1-b") << QStringLiteral("New booking: Ann Lee")
-                                               << QStringLiteral("Intro Call \u00B7 Wed, Mar 5, 5:00\u202FAM");
-    QTest::newRow("24-hour locale") << true << QString() << QStringLiteral("en_GB") << QStringLiteral("Europe/London")
-                                    << QStringLiteral("chg-b1-b") << QStringLiteral("New booking: Ann Lee")
-                                    << QStringLiteral("Intro Call \u00B7 Tue, 4 Mar, 20:00");
+    QTest::newRow("another locale and zone")
+        << true << QString() << QStringLiteral("en_GB") << QStringLiteral("Asia/Tokyo") << QStringLiteral("chg-b1-b")
+        << QStringLiteral("New booking: Ann Lee") << QStringLiteral("Intro Call \u00B7 Wed, 5 Mar, 05:00");
 }
 
 void NotificationPlanTest::announcement()
