@@ -1,0 +1,252 @@
+// The browser pages: booking as a guest, voting, and escaping of everything people typed.
+#include "SandboxHarness.h"
+
+#include "Html.h"
+#include "ISO.h"
+#include "JSON.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+using namespace quorvane::sandbox;
+
+namespace {
+
+const QString markup = u"<img src=x onerror=alert(1)>"_s;
+const QByteArray escapedMarkup = "&lt;img src=x onerror=alert(1)&gt;";
+
+// A host in New York with one type of each kind, open every weekday 9-17.
+HostSettings pageSettings(bool addMeet = true)
+{
+    HostSettings s;
+    s.owner = u"Sam Host"_s;
+    s.handle = u"sam"_s;
+    s.timezone = u"America/New_York"_s;
+    s.addMeet = addMeet;
+    EventType video;
+    video.id = u"V"_s;
+    video.slug = u"video"_s;
+    video.title = u"Video <chat>"_s;
+    video.questions = {u"What about?"_s};
+    EventType phone = video;
+    phone.id = u"P"_s;
+    phone.slug = u"phone"_s;
+    phone.location = MeetingLocation::phone;
+    phone.questions.clear();
+    EventType retired = phone;
+    retired.id = u"R"_s;
+    retired.slug = u"retired"_s;
+    retired.isActive = false;
+    s.eventTypes = {video, phone, retired};
+    for (int day = 2; day <= 6; ++day)
+        s.availability.append({day, {{9 * 60, 17 * 60}}});
+    return s;
+}
+
+QStringList offeredStarts(const QByteArray &page)
+{
+    QStringList out;
+    static const QRegularExpression radio(u"name=\"start\" value=\"([^\"]+)\""_s);
+    for (auto it = radio.globalMatch(QString::fromUtf8(page)); it.hasNext();)
+        out.append(it.next().captured(1));
+    return out;
+}
+
+QList<QPair<QString, QString>> guestForm(const QString &start, const QString &name = u"Kim Guest"_s)
+{
+    return {{u"start"_s, start}, {u"name"_s, name}, {u"email"_s, u"kim@example.com"_s},
+            {u"q0"_s, u"Plans & <ideas>"_s}, {u"tz"_s, u"Europe/Berlin"_s}, {u"notes"_s, u"See you"_s}};
+}
+
+} // namespace
+
+class TestSandboxPages : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<SandboxHarness> h;
+
+    QList<Booking> upcoming()
+    {
+        const Result<QJsonValue> doc = JSON::parse(h->get(u"/sync/bookings"_s).body);
+        return fromJson<QList<Booking>>(doc->toObject().value(u"bookings"_s)).value();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        h = std::make_unique<SandboxHarness>(SandboxHarness::config(false));
+        QVERIFY(h->start());
+        h->sandbox().store().setSettings(pageSettings());
+    }
+    void cleanup() { h.reset(); }
+
+    void escapingCoversWhatBreaksMarkup_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("tag") << markup << QString::fromLatin1(escapedMarkup);
+        QTest::newRow("attribute quotes") << u"\" onmouseover='x'"_s << u"&quot; onmouseover=&#39;x&#39;"_s;
+        QTest::newRow("ampersand first") << u"&lt;"_s << u"&amp;lt;"_s;
+        QTest::newRow("plain text unchanged") << u"Zoë O’Neil"_s << u"Zoë O’Neil"_s;
+    }
+    void escapingCoversWhatBreaksMarkup()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expected);
+        QCOMPARE(Html::escape(text), expected);
+    }
+
+    void aGuestBooksThroughTheForm()
+    {
+        const auto page = h->get(u"/sam/video"_s, {});
+        QCOMPARE(page.status, 200);
+        QVERIFY(page.body.contains("Video &lt;chat&gt;"));
+        const QStringList starts = offeredStarts(page.body);
+        QVERIFY(starts.size() > 20);
+
+        const auto booked = h->postForm(u"/sam/video"_s, guestForm(starts.first(), markup));
+        QCOMPARE(booked.status, 200);
+        QVERIFY(booked.body.contains(escapedMarkup));
+        QVERIFY(!booked.body.contains(markup.toUtf8()));
+        QVERIFY(booked.body.contains("Plans &amp; &lt;ideas&gt;"));
+
+        const QList<Booking> all = upcoming();
+        QCOMPARE(all.size(), 1);
+        const Booking &b = all.first();
+        QCOMPARE(b.name, markup);
+        QCOMPARE(b.start, ISO::parse(starts.first()).value());
+        QCOMPARE(b.start.secsTo(b.end), 1800);
+        QCOMPARE(b.tz, u"Europe/Berlin"_s);
+        QCOMPARE(b.answers.value(), (QList<Answer>{{u"What about?"_s, u"Plans & <ideas>"_s}}));
+        QVERIFY(QRegularExpression(u"^https://meet\\.google\\.com/[a-z]{3}-[a-z]{4}-[a-z]{3}$"_s).match(b.meet.value()).hasMatch());
+
+        // The time is gone from the page, and taking it again is refused with the form kept.
+        QVERIFY(!offeredStarts(h->get(u"/sam/video"_s, {}).body).contains(starts.first()));
+        const auto again = h->postForm(u"/sam/video"_s, guestForm(starts.first(), markup));
+        QCOMPARE(again.status, 409);
+        QVERIFY(again.body.contains("no longer available"));
+        QVERIFY(again.body.contains(escapedMarkup));
+        QVERIFY(!again.body.contains(markup.toUtf8()));
+    }
+
+    void theDashboardEscapesGuestNames()
+    {
+        const auto made = h->post(u"/sandbox/bookings"_s, {{u"type"_s, u"phone"_s}, {u"start"_s, u"2025-03-04T15:00:00Z"_s},
+                                                          {u"name"_s, markup}, {u"email"_s, u"x@example.com"_s}});
+        QCOMPARE(made.status, 200);
+        const auto app = h->get(u"/app"_s, {});
+        QCOMPARE(app.status, 200);
+        QVERIFY(app.body.contains(escapedMarkup));
+        QVERIFY(!app.body.contains(markup.toUtf8()));
+    }
+
+    void mistakesInTheFormAreExplained_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<int>("status");
+        QTest::newRow("no name") << u"name"_s << u"  "_s << 400;
+        QTest::newRow("no address") << u"email"_s << u"kim.example.com"_s << 400;
+        QTest::newRow("question unanswered") << u"q0"_s << QString() << 400;
+        QTest::newRow("a time not offered") << u"start"_s << u"2025-03-04T03:00:00Z"_s << 409;
+        QTest::newRow("no time") << u"start"_s << QString() << 400;
+    }
+    void mistakesInTheFormAreExplained()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, value);
+        QFETCH(int, status);
+        const QString start = offeredStarts(h->get(u"/sam/video"_s, {}).body).first();
+        QList<QPair<QString, QString>> form = guestForm(start);
+        for (auto &[key, v] : form) {
+            if (key == field)
+                v = value;
+        }
+        const auto r = h->postForm(u"/sam/video"_s, form);
+        QCOMPARE(r.status, status);
+        QVERIFY(r.body.contains("class=\"error\""));
+        QVERIFY(upcoming().isEmpty());
+    }
+
+    void pagesThatAreNotThere_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("another handle") << u"/someone"_s;
+        QTest::newRow("another handle's type") << u"/someone/video"_s;
+        QTest::newRow("unknown type") << u"/sam/nothing"_s;
+        QTest::newRow("inactive type") << u"/sam/retired"_s;
+        QTest::newRow("unknown poll") << u"/poll/nope"_s;
+        QTest::newRow("unknown connect link") << u"/connect/nope"_s;
+        QTest::newRow("unknown device code") << u"/device?code=ABCD-1234"_s;
+    }
+    void pagesThatAreNotThere()
+    {
+        QFETCH(QString, path);
+        const auto r = h->get(path, {});
+        QCOMPARE(r.status, 404);
+        QVERIFY(r.header("Content-Type").startsWith("text/html"));
+    }
+
+    void theHostPageListsActiveTypesOnly()
+    {
+        const auto r = h->get(u"/sam"_s, {});
+        QCOMPARE(r.status, 200);
+        QVERIFY(r.body.contains("href=\"/sam/video\""));
+        QVERIFY(r.body.contains("href=\"/sam/phone\""));
+        QVERIFY(!r.body.contains("/sam/retired"));
+    }
+
+    void meetLinksOnlyWhereAskedFor_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<bool>("addMeet");
+        QTest::addColumn<bool>("hasLink");
+        QTest::newRow("video, links on") << u"video"_s << true << true;
+        QTest::newRow("video, links off") << u"video"_s << false << false;
+        QTest::newRow("phone") << u"phone"_s << true << false;
+    }
+    void meetLinksOnlyWhereAskedFor()
+    {
+        QFETCH(QString, type);
+        QFETCH(bool, addMeet);
+        QFETCH(bool, hasLink);
+        h->sandbox().store().setSettings(pageSettings(addMeet));
+        const auto r = h->post(u"/sandbox/bookings"_s, {{u"type"_s, type}, {u"start"_s, u"2025-03-04T15:00:00Z"_s},
+                                                        {u"name"_s, u"Kim"_s}, {u"email"_s, u"kim@example.com"_s}});
+        QCOMPARE(r.status, 200);
+        QCOMPARE(fromJson<Booking>(r.json()).value().meet.has_value(), hasLink);
+    }
+
+    void guestsVoteOnAPoll()
+    {
+        const auto created = h->post(u"/sync/polls"_s, {{u"title"_s, u"Team <lunch>"_s}, {u"type"_s, u"phone"_s}});
+        QCOMPARE(created.status, 200);
+        const QString path = created.json().value(u"url"_s).toString().mid(h->base().size());
+        const auto page = h->get(path, {});
+        QCOMPARE(page.status, 200);
+        QVERIFY(page.body.contains("Team &lt;lunch&gt;"));
+
+        QCOMPARE(h->postForm(path, {{u"name"_s, markup}, {u"option"_s, u"0"_s}, {u"option"_s, u"2"_s}}).status, 200);
+        QCOMPARE(h->postForm(path, {{u"name"_s, u"Lee"_s}, {u"option"_s, u"2"_s}}).status, 200);
+        QCOMPARE(h->postForm(path, {{u"name"_s, u"lee"_s}, {u"option"_s, u"1"_s}}).status, 409);
+        QCOMPARE(h->postForm(path, {{u"name"_s, u"Max"_s}}).status, 400);
+        QCOMPARE(h->postForm(path, {{u"name"_s, u"Max"_s}, {u"option"_s, u"9"_s}}).status, 400);
+
+        const Result<QJsonValue> doc = JSON::parse(h->get(u"/sync/polls"_s).body);
+        const Poll poll = fromJson<QList<Poll>>(doc->toObject().value(u"polls"_s)).value().first();
+        QCOMPARE(poll.voters, (QStringList{markup, u"Lee"_s}));
+        QList<int> votes;
+        for (const Poll::Option &o : poll.options)
+            votes.append(o.votes);
+        QCOMPARE(votes, (QList<int>{1, 0, 2, 0}));
+        const auto after = h->get(path, {});
+        QVERIFY(after.body.contains(escapedMarkup));
+        QVERIFY(!after.body.contains(markup.toUtf8()));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSandboxPages)
+#include "tst_sandbox_pages.moc"
