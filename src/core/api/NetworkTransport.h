@@ -9,7 +9,8 @@ class QNetworkAccessManager;
 namespace quorvane {
 
 // The transport of the running program: one QNetworkAccessManager, owned by the caller
-// and living longer than every request sent through it.
+// and living longer than every request sent through it. Give it no cache: the client
+// always asks the server.
 class NetworkTransport : public HTTPTransport
 {
 public:

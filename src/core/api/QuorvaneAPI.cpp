@@ -80,9 +80,12 @@ HTTPRequest prepare(const QUrl &url, const QByteArray &method, const std::option
                     const QString &token)
 {
     QNetworkRequest request(url);
-    // No local cache is read or written. (AlwaysNetwork would add no-cache headers.)
+    // Nothing is written to a local cache, and the transport's manager has none to read.
+    // (AlwaysNetwork would do the same but adds Cache-Control and Pragma to the request.)
     request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
     request.setTransferTimeout(20'000);
+    // Qt would carry the Authorization header along to wherever a redirect points.
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
     request.setRawHeader("Authorization", "Bearer " + token.toUtf8());
     request.setHeader(QNetworkRequest::UserAgentHeader, u"Quorvane-Linux/%1"_s.arg(QLatin1StringView(build::version)));
     if (body)

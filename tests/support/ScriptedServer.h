@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QAbstractHttpServer>
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QList>
+#include <QUrl>
+
+#include <deque>
+
+namespace quorvane::test {
+
+// A real HTTP server on 127.0.0.1 that records every request and answers from a script,
+// in order. Without a scripted answer it replies 200 with "{}".
+class ScriptedServer : public QAbstractHttpServer
+{
+    Q_OBJECT
+
+public:
+    struct Answer {
+        int status = 200;
+        QByteArray body;
+        int delayMs = 0;   // answer after this long
+        bool cutOff = false; // start the answer, then break the connection: a network failure
+        QByteArray location; // sent as a Location header when not empty
+    };
+
+    struct Request {
+        QByteArray method;
+        QUrl url; // path and query as they arrived
+        QList<QPair<QByteArray, QByteArray>> headers;
+        QByteArray body;
+        qint64 atMs = 0; // since the server started
+        [[nodiscard]] QByteArray header(const QByteArray &name) const;
+        [[nodiscard]] QList<QByteArray> headerNames() const; // lower case, sorted
+    };
+
+    explicit ScriptedServer(QObject *parent = nullptr);
+
+    // http://127.0.0.1:{port}, or empty if listening failed.
+    [[nodiscard]] QUrl base() const { return m_base; }
+    void enqueue(const Answer &answer) { m_script.push_back(answer); }
+    void enqueue(const QList<Answer> &answers);
+    [[nodiscard]] const QList<Request> &requests() const { return m_requests; }
+
+Q_SIGNALS:
+    void received(int index);
+
+protected:
+    bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override;
+    void missingHandler(const QHttpServerRequest &, QTcpSocket *) override {}
+
+private:
+    QUrl m_base;
+    QElapsedTimer m_clock;
+    std::deque<Answer> m_script;
+    QList<Request> m_requests;
+};
+
+} // namespace quorvane::test
+
+Q_DECLARE_METATYPE(quorvane::test::ScriptedServer::Answer)
