@@ -81,24 +81,6 @@ private Q_SLOTS:
             QVERIFY2(!err.contains(secret), err.constData());
         }
     }
-
-    void badArgumentsStopWithAMessage_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("port a word") << QStringList{u"--port"_s, u"eighty"_s};
-        QTest::newRow("port too big") << QStringList{u"--port"_s, u"70000"_s};
-        QTest::newRow("unknown option") << QStringList{u"--colour"_s};
-        QTest::newRow("auto-approve negative") << QStringList{u"--auto-approve"_s, u"-1"_s};
-    }
-    void badArgumentsStopWithAMessage()
-    {
-        QFETCH(QStringList, arguments);
-        QProcess server;
-        server.start(executable(), arguments);
-        QVERIFY(server.waitForFinished(5000));
-        QCOMPARE(server.exitCode(), 2);
-        QVERIFY(!server.readAllStandardError().isEmpty());
-    }
 };
 
 QTEST_GUILESS_MAIN(TestSandboxProcess)
