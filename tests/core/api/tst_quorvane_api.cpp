@@ -47,7 +47,7 @@ class TestQuorvaneAPI : public QObject
 private Q_SLOTS:
     void initTestCase() { g_previousHandler = qInstallMessageHandler(recordMessage); }
 
-    // Statuses, retries and the `error` text, for GET and for writes.
+    // Statuses, network failures, retries and the `error` text, for GET and for writes.
     void statuses_data()
     {
         QTest::addColumn<QByteArray>("method");
@@ -84,6 +84,13 @@ private Q_SLOTS:
         QTest::newRow("not JSON") << "POST"_ba << 1 << L{answer(502, "<html>Bad gateway</html>")} << u"server(502, )"_s << 1;
         QTest::newRow("attempts 0 still tries once") << "GET"_ba << 0 << L{answer(500)} << u"server(500, )"_s << 1;
         QTest::newRow("negative attempts") << "GET"_ba << -3 << L{answer(429)} << u"rateLimited"_s << 1;
+        // No HTTP answer at all: a GET tries again, a write gives up at once.
+        QTest::newRow("network fails on every GET") << "GET"_ba << 2 << L{cutOff(), cutOff()} << u"offline"_s << 2;
+        QTest::newRow("GET recovers") << "GET"_ba << 2 << L{cutOff(), answer(200, "1")} << u"ok 1"_s << 2;
+        QTest::newRow("network then 503") << "GET"_ba << 2 << L{cutOff(), answer(503)} << u"server(503, )"_s << 2;
+        QTest::newRow("503 then network") << "GET"_ba << 2 << L{answer(503), cutOff()} << u"offline"_s << 2;
+        QTest::newRow("network, POST once") << "POST"_ba << 2 << L{cutOff()} << u"offline"_s << 1;
+        QTest::newRow("network, PUT once") << "PUT"_ba << 2 << L{cutOff()} << u"offline"_s << 1;
     }
     void statuses()
     {
@@ -130,34 +137,6 @@ private Q_SLOTS:
         QVERIFY(caught);
         QCOMPARE(caught->errorDescription(), expected);
         QCOMPARE(caught->isRetryable(), retryable);
-    }
-
-    // No HTTP answer at all: a GET tries again, a write gives up at once.
-    void transportFailures_data()
-    {
-        QTest::addColumn<QByteArray>("method");
-        QTest::addColumn<QList<Reply>>("answers");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<int>("tries");
-        using L = QList<Reply>;
-        QTest::newRow("GET fails twice") << "GET"_ba << L{cutOff(), cutOff()} << u"offline"_s << 2;
-        QTest::newRow("GET recovers") << "GET"_ba << L{cutOff(), answer(200, "1")} << u"ok 1"_s << 2;
-        QTest::newRow("network then 503") << "GET"_ba << L{cutOff(), answer(503)} << u"server(503, )"_s << 2;
-        QTest::newRow("503 then network") << "GET"_ba << L{answer(503), cutOff()} << u"offline"_s << 2;
-        QTest::newRow("POST once") << "POST"_ba << L{cutOff()} << u"offline"_s << 1;
-        QTest::newRow("PUT once") << "PUT"_ba << L{cutOff()} << u"offline"_s << 1;
-    }
-    void transportFailures()
-    {
-        QFETCH(QByteArray, method);
-        QFETCH(QList<Reply>, answers);
-        QFETCH(QString, expected);
-        QFETCH(int, tries);
-        ApiHarness h;
-        h.server.enqueue(answers);
-        const std::optional<QByteArray> body = method == "GET" ? std::nullopt : std::optional("{}"_ba);
-        QCOMPARE(run(bodyOf(h.api().request(u"sync/x"_s, method, {}, body, 2))), expected);
-        QCOMPARE(h.server.requests().size(), tries);
     }
 
     void refusedConnectionIsOffline()
