@@ -10,25 +10,26 @@ namespace quorvane {
 
 namespace {
 
-QList<Booking> distinctByID(const QList<Booking> &bookings)
+QList<const Booking *> distinctByID(const QList<Booking> &bookings)
 {
     QSet<QString> seen;
     seen.reserve(bookings.size());
-    QList<Booking> out;
+    QList<const Booking *> out;
     out.reserve(bookings.size());
     for (const Booking &booking : bookings) {
         if (!seen.contains(booking.id)) {
             seen.insert(booking.id);
-            out.append(booking);
+            out.append(&booking);
         }
     }
     return out;
 }
 
-void count(Insights &result, const QList<Booking> &all, const Instant &now)
+void count(Insights &result, const QList<const Booking *> &all, const Instant &now)
 {
     result.total = int(all.size());
-    for (const Booking &b : all) {
+    for (const Booking *booking : all) {
+        const Booking &b = *booking;
         result.cancelled += b.status == BookingStatus::cancelled;
         result.confirmed += b.status == BookingStatus::confirmed && b.end < now;
         result.noShows += b.noShow.value_or(false);
@@ -36,7 +37,8 @@ void count(Insights &result, const QList<Booking> &all, const Instant &now)
     }
 }
 
-// Oldest first, keyed by the bucket's start in milliseconds.
+// Oldest first. The index is keyed by the local day each week starts on, which places a booking
+// with one zone lookup instead of converting its week start back to an instant.
 QHash<qint64, qsizetype> makeWeeks(Insights &result, const Instant &now, int weeks, const WeekCalendar &calendar)
 {
     const Instant thisWeek = calendar.startOfWeek(now).value_or(now);
@@ -48,7 +50,7 @@ QHash<qint64, qsizetype> makeWeeks(Insights &result, const Instant &now, int wee
               [](const Insights::Week &a, const Insights::Week &b) { return a.start < b.start; });
     QHash<qint64, qsizetype> index;
     for (qsizetype i = 0; i < result.weeks.size(); ++i)
-        index.insert(result.weeks[i].start.toMSecsSinceEpoch(), i);
+        index.insert(calendar.dayNumber(result.weeks[i].start), i);
     return index;
 }
 
@@ -108,20 +110,19 @@ Insights Insights::compute(const QList<Booking> &bookings, const Instant &now, i
                            const WeekCalendar &calendar)
 {
     Insights result;
-    const QList<Booking> all = distinctByID(bookings);
+    const QList<const Booking *> all = distinctByID(bookings);
     count(result, all, now);
     const QHash<qint64, qsizetype> weekIndex = makeWeeks(result, now, weeks, calendar);
 
     Tallies tallies;
-    for (const Booking &b : all) {
-        if (b.status == BookingStatus::cancelled || b.status == BookingStatus::rejected)
+    for (const Booking *b : all) {
+        if (b->status == BookingStatus::cancelled || b->status == BookingStatus::rejected)
             continue;
+        const WeekCalendar::Position at = calendar.position(b->start);
         // A booking outside the window still counts everywhere but in the weekly bars.
-        if (const std::optional<Instant> week = calendar.startOfWeek(b.start)) {
-            if (auto found = weekIndex.constFind(week->toMSecsSinceEpoch()); found != weekIndex.cend())
-                ++result.weeks[*found].count;
-        }
-        tallies.add(calendar.weekday(b.start), calendar.hour(b.start), b.type);
+        if (auto found = weekIndex.constFind(at.weekStartDay); found != weekIndex.cend())
+            ++result.weeks[*found].count;
+        tallies.add(at.weekday, at.hour, b->type);
     }
 
     result.heatmap = tallies.heatmap();

@@ -37,6 +37,15 @@ public:
     // Local calendar days since 1970-01-01; the difference of two gives "days from today".
     [[nodiscard]] qint64 dayNumber(const Instant &instant) const;
 
+    // Everything above at the price of one zone lookup, for code that places many instants.
+    struct Position {
+        qint64 day = 0;          // as dayNumber()
+        qint64 weekStartDay = 0; // dayNumber() of the week's first day: equal for instants in one week
+        int weekday = 1;
+        int hour = 0;
+    };
+    [[nodiscard]] Position position(const Instant &instant) const;
+
 private:
     struct Zone;
 

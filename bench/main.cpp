@@ -1,0 +1,106 @@
+// Prints the measured figures next to their budgets. Run it through scripts/bench (an optimised
+// build); the exit code is 1 when a figure is over its budget.
+
+#include "Insights.h"
+#include "JSON.h"
+#include "NLAvailability.h"
+#include "SampleBookings.h"
+#include "Snapshot.h"
+
+#include <QElapsedTimer>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+using namespace quorvane;
+
+namespace {
+
+// Keeps the compiler from dropping work whose result is otherwise unused.
+template<class T>
+void keep(const T &value)
+{
+    asm volatile("" : : "g"(&value) : "memory");
+}
+
+// Median over `rounds` of the time of `calls` calls, in nanoseconds per call.
+double nanosPerCall(int rounds, int calls, const std::function<void()> &work)
+{
+    work(); // warm caches and ICU's lazily loaded data
+    std::vector<double> samples;
+    for (int r = 0; r < rounds; ++r) {
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < calls; ++i)
+            work();
+        samples.push_back(double(timer.nsecsElapsed()) / calls);
+    }
+    std::nth_element(samples.begin(), samples.begin() + rounds / 2, samples.end());
+    return samples[rounds / 2];
+}
+
+bool report(const char *what, double value, const char *unit, double budget)
+{
+    const bool ok = value <= budget;
+    std::printf("%-44s %10.3f %-6s budget %8.3f  %s\n", what, value, unit, budget, ok ? "ok" : "OVER");
+    return ok;
+}
+
+bool benchParse()
+{
+    const QStringList sentences{
+        QStringLiteral("weekdays 9-5"),
+        QStringLiteral("mon-thu 9am-12pm and 1pm-5:30pm, fri 9-1"),
+        QStringLiteral("tuesdays and thursdays 10:00-16:00"),
+        QStringLiteral("every day 8-20 except sunday"),
+    };
+    qsizetype next = 0;
+    const double nanos = nanosPerCall(15, 2000, [&] {
+        keep(NLAvailability::parse(sentences.at(next)));
+        next = (next + 1) % sentences.size();
+    });
+    return report("NLAvailability::parse per call", nanos / 1e3, "us", 50);
+}
+
+bool benchInsights(const QList<Booking> &bookings, const Instant &now)
+{
+    const WeekCalendar calendar(QStringLiteral("en_US"), QStringLiteral("America/New_York"));
+    const double nanos = nanosPerCall(15, 5, [&] { keep(Insights::compute(bookings, now, 12, calendar)); });
+    return report("Insights::compute, 10,000 bookings", nanos / 1e6, "ms", 10);
+}
+
+bool benchDecode(const QList<Booking> &bookings, const Instant &now)
+{
+    Snapshot snapshot;
+    snapshot.upcoming = bookings.mid(0, bookings.size() / 2);
+    snapshot.history = bookings.mid(bookings.size() / 2);
+    snapshot.savedAt = now;
+    const QByteArray bytes = JSON::encode(snapshot);
+
+    const double parseOnly = nanosPerCall(9, 3, [&] { keep(QJsonDocument::fromJson(bytes)); });
+    const double decode = nanosPerCall(9, 3, [&] {
+        const Result<Snapshot> result = JSON::decode<Snapshot>(bytes);
+        if (!result)
+            std::abort(); // the figure would mean nothing
+        keep(result);
+    });
+    std::printf("%-44s %10.3f ms (%lld KiB)\n", "QJsonDocument::fromJson, 10,000 bookings", parseOnly / 1e6,
+                static_cast<long long>(bytes.size() / 1024));
+    std::printf("%-44s %10.3f ms\n", "JSON::decode<Snapshot>, same bytes", decode / 1e6);
+    return report("decode / fromJson", decode / parseOnly, "x", 2);
+}
+
+} // namespace
+
+int main()
+{
+    const Instant now = QDateTime::currentDateTimeUtc();
+    const QList<Booking> bookings = bench::sampleBookings(10'000, now);
+    bool ok = benchParse();
+    ok = benchInsights(bookings, now) && ok;
+    ok = benchDecode(bookings, now) && ok;
+    return ok ? 0 : 1;
+}
