@@ -71,6 +71,8 @@ bool Sandbox::start(QString *error)
     m_backend.setBaseUrl(u"http://127.0.0.1:%1"_s.arg(m_port));
     if (m_config.simulate) {
         m_simulator = new GuestSimulator(m_backend, m_config.simulateMinSeconds, m_config.simulateMaxSeconds, this);
+        if (m_config.logRequests)
+            connect(m_simulator, &GuestSimulator::acted, this, [](const QString &what) { logLine(u"a guest "_s + what); });
         m_simulator->start();
     }
     return true;

@@ -1,6 +1,7 @@
 // The sync API over real loopback HTTP, answers decoded with the client's own records.
 #include "SandboxHarness.h"
 
+#include "GuestSimulator.h"
 #include "ISO.h"
 #include "JSON.h"
 
@@ -275,6 +276,30 @@ private Q_SLOTS:
         QCOMPARE(h->post(u"/sync/polls/delete"_s, {{u"id"_s, p.id}}).status, 200);
         QCOMPARE(decodeField<QList<Poll>>(h->get(u"/sync/polls"_s).body, u"polls"_s).size(), 2);
         QCOMPARE(h->post(u"/sync/polls/delete"_s, {{u"id"_s, p.id}}).status, 404);
+    }
+
+    void simulatedGuestsBookFreeTimesAndCancel()
+    {
+        SandboxConfig config = SandboxHarness::config();
+        config.simulate = true;
+        SandboxHarness sim(config);
+        QVERIFY(sim.start());
+        const Instant since = sim.now();
+        int made = 0;
+        for (int i = 0; i < 30; ++i) {
+            sim.advance(600);
+            made += sim.sandbox().simulator()->step() ? 1 : 0;
+        }
+        const auto changes = decodeField<QList<Booking>>(sim.get(u"/sync/changes?since="_s + ISO::string(since)).body,
+                                                         u"changes"_s);
+        QVERIFY(made >= 25);
+        QVERIFY(std::any_of(changes.cbegin(), changes.cend(), [](auto &b) { return b.status == BookingStatus::cancelled; }));
+        QVERIFY(std::any_of(changes.cbegin(), changes.cend(), [](auto &b) { return b.status == BookingStatus::confirmed; }));
+        // Guests book only what the page offers: no two active meetings overlap.
+        QList<Booking> active = decodeField<QList<Booking>>(sim.get(u"/sync/bookings"_s).body, u"bookings"_s);
+        active.removeIf([](const Booking &b) { return !b.isActive(); });
+        for (qsizetype i = 1; i < active.size(); ++i)
+            QVERIFY2(active.at(i - 1).end <= active.at(i).start, qPrintable(active.at(i).id));
     }
 
     void connectLinkConnectsTheCalendarOnce()
