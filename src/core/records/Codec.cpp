@@ -7,18 +7,47 @@
 
 namespace quorvane {
 
+CodingPath CodingPath::key(QLatin1StringView name) const
+{
+    CodingPath next;
+    next.m_parent = this;
+    next.m_step = Step::latin1;
+    next.m_latin1 = name;
+    return next;
+}
+
 CodingPath CodingPath::key(const QString &name) const
 {
     CodingPath next;
-    next.m_text = m_text.isEmpty() ? name : m_text + u'.' + name;
+    next.m_parent = this;
+    next.m_step = Step::text;
+    next.m_text = name;
     return next;
 }
 
 CodingPath CodingPath::index(qsizetype i) const
 {
     CodingPath next;
-    next.m_text = m_text + u'[' + QString::number(i) + u']';
+    next.m_parent = this;
+    next.m_step = Step::index;
+    next.m_index = i;
     return next;
+}
+
+QString CodingPath::toString() const
+{
+    QString prefix = m_parent ? m_parent->toString() : QString();
+    switch (m_step) {
+    case Step::root:
+        return prefix;
+    case Step::index:
+        return prefix + u'[' + QString::number(m_index) + u']';
+    case Step::latin1:
+        return prefix.isEmpty() ? QString(m_latin1) : prefix + u'.' + m_latin1;
+    case Step::text:
+        return prefix.isEmpty() ? m_text : prefix + u'.' + m_text;
+    }
+    return prefix;
 }
 
 namespace codec {

@@ -13,16 +13,27 @@
 
 namespace quorvane {
 
-// Where a decoder stands inside a document, for error messages.
+// Where a decoder stands inside a document, for error messages. A path links to its
+// parent on the caller's stack and is only spelled out when a failure names it, so that
+// decoding a large document builds no strings.
 class CodingPath
 {
 public:
+    CodingPath() = default;
+
+    [[nodiscard]] CodingPath key(QLatin1StringView name) const;
     [[nodiscard]] CodingPath key(const QString &name) const;
     [[nodiscard]] CodingPath index(qsizetype i) const;
-    [[nodiscard]] const QString &toString() const { return m_text; }
+    [[nodiscard]] QString toString() const;
 
 private:
+    enum class Step { root, latin1, text, index };
+
+    const CodingPath *m_parent = nullptr;
+    Step m_step = Step::root;
+    QLatin1StringView m_latin1;
     QString m_text;
+    qsizetype m_index = 0;
 };
 
 // Thrown inside decoders only; fromJson() turns it into a DecodeError.

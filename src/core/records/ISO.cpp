@@ -1,36 +1,73 @@
 #include "ISO.h"
 
-#include <QRegularExpression>
 
 namespace quorvane::ISO {
 
+namespace {
+
+// Reads `count` ASCII digits at `at`; -1 if any is not a digit.
+int digits(const QString &text, qsizetype at, int count)
+{
+    int value = 0;
+    for (int i = 0; i < count; ++i) {
+        const char16_t c = text.at(at + i).unicode();
+        if (c < u'0' || c > u'9')
+            return -1;
+        value = value * 10 + (c - u'0');
+    }
+    return value;
+}
+
+bool hasAt(const QString &text, qsizetype at, char16_t c)
+{
+    return at < text.size() && text.at(at).unicode() == c;
+}
+
+} // namespace
+
+// Internet date-time, read by position: a fraction is optional, a zone is not. Every date of
+// every record goes through here, so it avoids regular expressions and allocations.
 std::optional<Instant> parse(const QString &text)
 {
-    // Internet date-time: a fraction is optional, a zone is not.
-    static const QRegularExpression form(QStringLiteral(
-        R"(^(\d{4})-(\d{2})-(\d{2})T(\d{2}):(\d{2}):(\d{2})(?:\.(\d+))?(Z|([+-])(\d{2}):(\d{2}))$)"));
-    const QRegularExpressionMatch m = form.match(text);
-    if (!m.hasMatch())
+    if (text.size() < 20 || !hasAt(text, 4, u'-') || !hasAt(text, 7, u'-') || !hasAt(text, 10, u'T')
+        || !hasAt(text, 13, u':') || !hasAt(text, 16, u':'))
+        return std::nullopt;
+    const int year = digits(text, 0, 4), month = digits(text, 5, 2), day = digits(text, 8, 2);
+    const int hour = digits(text, 11, 2), minute = digits(text, 14, 2), second = digits(text, 17, 2);
+    if (year < 0 || month < 0 || day < 0 || hour < 0 || minute < 0 || second < 0)
         return std::nullopt;
 
-    const QDate date(m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt());
+    qsizetype at = 19;
     int msec = 0;
-    if (m.hasCaptured(7))
-        msec = m.captured(7).left(3).leftJustified(3, u'0').toInt();
-    const QTime time(m.captured(4).toInt(), m.captured(5).toInt(), m.captured(6).toInt(), msec);
-    if (!date.isValid() || !time.isValid())
-        return std::nullopt;
+    if (hasAt(text, at, u'.')) {
+        const qsizetype first = ++at;
+        int scale = 100;
+        while (at < text.size() && text.at(at).isDigit() && text.at(at).unicode() < 128) {
+            msec += scale * (text.at(at).unicode() - u'0');
+            scale /= 10;
+            ++at;
+        }
+        if (at == first)
+            return std::nullopt;
+    }
 
     int offsetSeconds = 0;
-    if (m.captured(8) != u"Z") {
-        const int hours = m.captured(10).toInt();
-        const int minutes = m.captured(11).toInt();
-        if (hours > 23 || minutes > 59)
+    if (hasAt(text, at, u'Z') && at + 1 == text.size()) {
+        // UTC
+    } else if ((hasAt(text, at, u'+') || hasAt(text, at, u'-')) && at + 6 == text.size() && hasAt(text, at + 3, u':')) {
+        const int hours = digits(text, at + 1, 2), minutes = digits(text, at + 4, 2);
+        if (hours < 0 || minutes < 0 || hours > 23 || minutes > 59)
             return std::nullopt;
-        offsetSeconds = (hours * 60 + minutes) * 60 * (m.captured(9) == u"-" ? -1 : 1);
+        offsetSeconds = (hours * 60 + minutes) * 60 * (text.at(at) == u'-' ? -1 : 1);
+    } else {
+        return std::nullopt;
     }
-    QDateTime utc(date, time, Qt::UTC);
-    return utc.addSecs(-offsetSeconds);
+
+    const QDate date(year, month, day);
+    const QTime time(hour, minute, second, msec);
+    if (!date.isValid() || !time.isValid())
+        return std::nullopt;
+    return QDateTime(date, time, Qt::UTC).addSecs(-offsetSeconds);
 }
 
 QString string(const Instant &instant)
