@@ -1,10 +1,12 @@
-# quorvane_add_test(NAME name SOURCES ... LIBS ... LABEL unit|integration|ui|e2e [TIMEOUT s])
+# quorvane_add_test(NAME name SOURCES ... LIBS ... LABEL unit|integration|ui|e2e [TIMEOUT s]
+#                   [WRAPPER command ...])
+# WRAPPER runs the test binary through a command, such as tests/support/run-in-session.
 function(quorvane_add_test)
-    cmake_parse_arguments(T "" "NAME;LABEL;TIMEOUT" "SOURCES;LIBS" ${ARGN})
+    cmake_parse_arguments(T "" "NAME;LABEL;TIMEOUT" "SOURCES;LIBS;WRAPPER" ${ARGN})
     add_executable(${T_NAME} ${T_SOURCES})
     target_link_libraries(${T_NAME} PRIVATE Qt6::Test quorvane_options ${T_LIBS})
     target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    add_test(NAME ${T_NAME} COMMAND ${T_NAME})
+    add_test(NAME ${T_NAME} COMMAND ${T_WRAPPER} $<TARGET_FILE:${T_NAME}>)
     if(NOT T_TIMEOUT)
         set(T_TIMEOUT 120)
     endif()

@@ -1,7 +1,7 @@
 #include "ScriptedServer.h"
 
-#include <QHostAddress>
 #include <QHttpServerRequest>
+#include <QMetaEnum>
 #include <QPointer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -10,42 +10,11 @@
 
 namespace quorvane::test {
 
-namespace {
-
-QByteArray methodName(QHttpServerRequest::Method method)
-{
-    switch (method) {
-    case QHttpServerRequest::Method::Get: return "GET";
-    case QHttpServerRequest::Method::Put: return "PUT";
-    case QHttpServerRequest::Method::Delete: return "DELETE";
-    case QHttpServerRequest::Method::Post: return "POST";
-    case QHttpServerRequest::Method::Head: return "HEAD";
-    case QHttpServerRequest::Method::Options: return "OPTIONS";
-    case QHttpServerRequest::Method::Patch: return "PATCH";
-    default: return "OTHER";
-    }
-}
-
-// Written by hand: a QHttpServerResponder may not outlive the request it was made for.
-QByteArray httpMessage(const ScriptedServer::Answer &answer)
-{
-    QByteArray message = "HTTP/1.1 " + QByteArray::number(answer.status) + " Scripted\r\n";
-    message += "Content-Type: application/json\r\n";
-    if (!answer.location.isEmpty())
-        message += "Location: " + answer.location + "\r\n";
-    message += "Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n\r\n";
-    return message + answer.body;
-}
-
-} // namespace
-
 QByteArray ScriptedServer::Request::header(const QByteArray &name) const
 {
-    for (const auto &[key, value] : headers) {
-        if (key.compare(name, Qt::CaseInsensitive) == 0)
-            return value;
-    }
-    return {};
+    const auto it = std::find_if(headers.begin(), headers.end(),
+                                 [&](const auto &h) { return h.first.compare(name, Qt::CaseInsensitive) == 0; });
+    return it == headers.end() ? QByteArray() : it->second;
 }
 
 QList<QByteArray> ScriptedServer::Request::headerNames() const
@@ -64,43 +33,37 @@ ScriptedServer::ScriptedServer(QObject *parent) : QAbstractHttpServer(parent)
         m_base = QUrl(QStringLiteral("http://127.0.0.1:%1").arg(port));
 }
 
-void ScriptedServer::enqueue(const QList<Answer> &answers)
-{
-    for (const Answer &answer : answers)
-        enqueue(answer);
-}
-
 bool ScriptedServer::handleRequest(const QHttpServerRequest &request, QTcpSocket *socket)
 {
-    m_requests.append(Request{methodName(request.method()), request.url(), request.headers(), request.body(),
-                              m_clock.elapsed()});
-    Answer answer;
+    const char *method = QMetaEnum::fromType<QHttpServerRequest::Method>().valueToKey(int(request.method()));
+    m_requests.append({QByteArray(method).toUpper(), request.url(), request.headers(), request.body(), m_clock.elapsed()});
+    Answer answer{200, "{}"};
     if (!m_script.empty()) {
         answer = m_script.front();
         m_script.pop_front();
-    } else {
-        answer.body = "{}";
     }
-    // The socket may be gone by the time a delayed answer is due.
-    const QPointer<QTcpSocket> target(socket);
-    auto respond = [target, answer] {
+    // Written by hand: a QHttpServerResponder may not outlive its request, and the socket
+    // may be gone by the time a delayed answer is due.
+    auto respond = [target = QPointer<QTcpSocket>(socket), answer] {
         if (!target)
             return;
         if (answer.cutOff) {
-            // Closing before any answer would not do: the network stack quietly sends the
-            // request again on a fresh connection.
+            // Closing before any answer would not do: Qt quietly sends the request again.
             target->write("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n{");
             target->flush();
             target->abort();
-        } else {
-            target->write(httpMessage(answer));
+            return;
         }
+        QByteArray head = "HTTP/1.1 " + QByteArray::number(answer.status) + " Scripted\r\n";
+        if (!answer.location.isEmpty())
+            head += "Location: " + answer.location + "\r\n";
+        target->write(head + "Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
     };
     if (answer.delayMs > 0)
         QTimer::singleShot(answer.delayMs, this, respond);
     else
         respond();
-    Q_EMIT received(int(m_requests.size()) - 1);
+    Q_EMIT received();
     return true;
 }
 

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <QAbstractHttpServer>
-#include <QByteArray>
 #include <QElapsedTimer>
-#include <QList>
 #include <QUrl>
 
 #include <deque>
@@ -20,9 +18,9 @@ public:
     struct Answer {
         int status = 200;
         QByteArray body;
-        int delayMs = 0;   // answer after this long
-        bool cutOff = false; // start the answer, then break the connection: a network failure
-        QByteArray location; // sent as a Location header when not empty
+        int delayMs = 0;
+        bool cutOff = false;  // start the answer, then break the connection: a network failure
+        QByteArray location;  // sent as a Location header when not empty
     };
 
     struct Request {
@@ -37,14 +35,12 @@ public:
 
     explicit ScriptedServer(QObject *parent = nullptr);
 
-    // http://127.0.0.1:{port}, or empty if listening failed.
-    [[nodiscard]] QUrl base() const { return m_base; }
-    void enqueue(const Answer &answer) { m_script.push_back(answer); }
-    void enqueue(const QList<Answer> &answers);
+    [[nodiscard]] QUrl base() const { return m_base; } // http://127.0.0.1:{port}
+    void enqueue(const QList<Answer> &answers) { m_script.insert(m_script.end(), answers.begin(), answers.end()); }
     [[nodiscard]] const QList<Request> &requests() const { return m_requests; }
 
 Q_SIGNALS:
-    void received(int index);
+    void received();
 
 protected:
     bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override;

@@ -7,11 +7,13 @@ namespace quorvane {
 
 namespace {
 
+// Items match on service and account alone, like a generic password elsewhere, so a token
+// that another tool stored under the same pair is found (and erased) too.
 const SecretSchema *tokenSchema()
 {
     static const SecretSchema schema = {
         "com.peldrachen.quorvane.Token",
-        SECRET_SCHEMA_NONE,
+        SECRET_SCHEMA_DONT_MATCH_NAME,
         {
             {"service", SECRET_SCHEMA_ATTRIBUTE_STRING},
             {"account", SECRET_SCHEMA_ATTRIBUTE_STRING},
