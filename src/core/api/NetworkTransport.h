@@ -9,8 +9,8 @@ class QNetworkAccessManager;
 namespace quorvane {
 
 // The transport of the running program: one QNetworkAccessManager, owned by the caller
-// and living longer than every request sent through it. Give it no cache: the client
-// always asks the server.
+// and living longer than every request sent through it; used on the manager's thread.
+// Give the manager no cache: the client always asks the server.
 class NetworkTransport : public HTTPTransport
 {
 public:

@@ -119,6 +119,7 @@ Verdict judge(const HTTPResponse &response, const QByteArray &method)
 QCoro::Task<QByteArray> perform(QuorvaneAPI api, QString path, QByteArray method, QuorvaneAPI::Query query,
                                 std::optional<QByteArray> body, int attempts)
 {
+    Q_ASSERT(api.transport);
     const std::optional<QString> token = api.token ? api.token() : std::nullopt;
     if (!token || token->isEmpty())
         throw APIError::notSignedIn();
