@@ -15,6 +15,7 @@
 #include <QCoroTask>
 #include <QObject>
 #include <QTimer>
+#include <QtQml/qqmlregistration.h>
 
 #include <exception>
 #include <functional>
@@ -28,6 +29,8 @@ namespace quorvane {
 class AppModel : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The one model is made by the application and reached as App.")
     Q_PROPERTY(bool loading READ loading NOTIFY loadingChanged)
     Q_PROPERTY(bool firstLoadDone READ firstLoadDone NOTIFY firstLoadDoneChanged)
     Q_PROPERTY(bool offline READ offline NOTIFY offlineChanged)
@@ -43,8 +46,17 @@ class AppModel : public QObject
     Q_PROPERTY(bool notifyReminders READ notifyReminders WRITE setNotifyReminders NOTIFY preferencesChanged)
     Q_PROPERTY(int reminderMinutes READ reminderMinutes WRITE setReminderMinutes NOTIFY preferencesChanged)
     Q_PROPERTY(QString serverURL READ serverURL WRITE setServerURL NOTIFY preferencesChanged)
+    // The banner in plain parts for QML; kind is a BannerKind.
+    Q_PROPERTY(bool hasBanner READ hasBanner NOTIFY bannerChanged)
+    Q_PROPERTY(QString bannerMessage READ bannerMessage NOTIFY bannerChanged)
+    Q_PROPERTY(BannerKind bannerKind READ bannerKind NOTIFY bannerChanged)
+    Q_PROPERTY(bool bannerRetry READ bannerRetry NOTIFY bannerChanged)
+    Q_PROPERTY(bool hasAccount READ hasAccount NOTIFY snapshotChanged)
 
 public:
+    enum class BannerKind { Error, Offline, Info };
+    Q_ENUM(BannerKind)
+
     explicit AppModel(AppEnvironment environment, QObject *parent = nullptr);
     ~AppModel() override;
 
@@ -103,7 +115,7 @@ public:
     [[nodiscard]] const QString &zone() const { return m_env.zone; }
 
     // --- the cycle ---
-    void start();
+    Q_INVOKABLE void start();
     QCoro::Task<> tick();
     QCoro::Task<> refresh(bool silent = false);
     QCoro::Task<> pollChanges(bool prime);
@@ -175,6 +187,11 @@ private:
     void setLastRefresh(std::optional<Instant> value);
 
     // For QML: the optional and enum properties in plain forms.
+    [[nodiscard]] bool hasBanner() const { return m_banner.has_value(); }
+    [[nodiscard]] QString bannerMessage() const { return m_banner ? m_banner->message : QString(); }
+    [[nodiscard]] BannerKind bannerKind() const { return m_banner ? BannerKind(int(m_banner->kind)) : BannerKind::Error; }
+    [[nodiscard]] bool bannerRetry() const { return m_banner && m_banner->retry; }
+    [[nodiscard]] bool hasAccount() const { return m_snapshot.account.has_value(); }
     [[nodiscard]] QDateTime lastRefreshOrNull() const { return m_lastRefresh.value_or(QDateTime()); }
     [[nodiscard]] QString sectionId() const { return Section::id(m_section); }
     void setSectionId(const QString &id);
