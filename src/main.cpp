@@ -2,6 +2,7 @@
 #include "AppModel.h"
 #include "NetworkTransport.h"
 #include "Preferences.h"
+#include "ShellController.h"
 #include "SystemClipboard.h"
 #include "SystemClock.h"
 #include "UrlOpener.h"
@@ -66,7 +67,11 @@ int main(int argc, char *argv[])
 
     QObject::connect(&notifier, &Notifier::joinRequested, &notifier, [&opener](const QUrl &url) { opener.open(url); });
 
+    ShellController shell;
+    QObject::connect(&shell, &ShellController::quitRequested, &app, &QApplication::quit);
+
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "App", &model);
+    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Shell", &shell);
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s);
     engine.load(QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s));
