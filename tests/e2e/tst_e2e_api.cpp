@@ -1,7 +1,9 @@
 // The client's API against the sandbox: every operation end to end, and the sandbox's
 // planted failures arriving as the client's typed errors.
 #include "SandboxHarness.h"
-#include "core/api/ApiHarness.h"
+#include "NetworkTransport.h"
+#include "QuorvaneAPI.h"
+#include "support/ApiOutcome.h"
 
 #include "ISO.h"
 

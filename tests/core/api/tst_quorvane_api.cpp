@@ -7,6 +7,7 @@
 #include "JSONFailure.h"
 #include "NetworkTransport.h"
 #include "QuorvaneAPI.h"
+#include "support/ApiOutcome.h"
 #include "support/ScriptedServer.h"
 
 #include <QElapsedTimer>
@@ -53,14 +54,7 @@ QString show(const BookingChanges &c)
 {
     return show(c.changes) + u" at "_s + (c.serverTime ? ISO::string(*c.serverTime) : u"none"_s);
 }
-QString show(const APIError &e)
-{
-    static const char *const kinds[] = {"notSignedIn", "unauthorized", "offline", "rateLimited", "server", "decoding"};
-    const QString kind = QString::fromLatin1(kinds[int(e.kind())]);
-    if (e.kind() == APIError::Kind::server)
-        return u"%1(%2, %3)"_s.arg(kind).arg(e.status()).arg(e.message());
-    return e.kind() == APIError::Kind::decoding ? u"%1(%2)"_s.arg(kind, e.message()) : kind;
-}
+QString show(const APIError &e) { return describe(e); }
 
 template<class T>
 QCoro::Task<QString> shown(QCoro::Task<T> task)
