@@ -60,7 +60,7 @@ struct Keyring : LibsecretStore {
 // when the test approves it. The client's clock moves when told; opened pages are noted.
 struct Rig {
     explicit Rig(int autoApproveSeconds = -1, DeviceSignIn::Timings timings = {20ms, 600s})
-        : server(config(autoApproveSeconds), [now = serverNow] { return *now; }),
+        : server({.port = 0, .autoApproveSeconds = autoApproveSeconds, .logRequests = false}, [now = serverNow] { return *now; }),
           transport(std::make_shared<RecordingTransport>(network)), signIn(transport, keyring, opener, clock, timings)
     {
         keychain.write(earlier);
@@ -77,14 +77,6 @@ struct Rig {
     {
         signIn.cancel();
         QTest::qWait(20); // an aborted reply finishes before its network manager goes
-    }
-    static sandbox::SandboxConfig config(int autoApproveSeconds)
-    {
-        sandbox::SandboxConfig c;
-        c.port = 0;
-        c.autoApproveSeconds = autoApproveSeconds;
-        c.logRequests = false;
-        return c;
     }
     void begin(const QString &suffix = {}) { signIn.start(QUrl(server.baseUrl() + suffix)); }
     void plant(const QString &path, const sandbox::Fault &fault) { server.faults().plant(path, fault); }
