@@ -108,6 +108,11 @@ private Q_SLOTS:
         QCOMPARE(call.body, model->typeTitle(made.type) + u" · "_s + when(made.start));
         QCOMPARE(call.hints.value(u"desktop-entry"_s).toString(), u"com.peldrachen.quorvane"_s);
         QVERIFY(contains(model->snapshot().upcoming, made.id)); // the refresh followed
+        qInfo("announced: \"%s\" / \"%s\" as %s; files: %s (%o), %s (%o); %lld reminders pending",
+              qPrintable(call.summary), qPrintable(call.body),
+              qPrintable(call.hints.value(u"desktop-entry"_s).toString()), qPrintable(cache.fileName()),
+              mode(cache.filePath()), qPrintable(tracker.fileName()), mode(tracker.filePath()),
+              qlonglong(rig->notifier->pending().size()));
         QVERIFY(!rig->notifier->pending().isEmpty());
 
         // The overlap asks for the latest seconds again; nothing is announced twice.
