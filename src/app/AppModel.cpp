@@ -51,6 +51,8 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
     m_env.preferences->migrate();
 
     connect(m_env.preferences, &Preferences::changed, this, &AppModel::preferencesChanged);
+    connect(this, &AppModel::snapshotChanged, this, &AppModel::nextChanged);
+    connect(this, &AppModel::ticked, this, &AppModel::nextChanged);
     m_timer.setInterval(m_env.timings.tick);
     connect(&m_timer, &QTimer::timeout, this, [this] { run(tick()); });
 }
@@ -130,6 +132,8 @@ int AppModel::reminderMinutes() const { return m_env.preferences->reminderMinute
 void AppModel::setReminderMinutes(int value) { m_env.preferences->setReminderMinutes(value); }
 QString AppModel::serverURL() const { return m_env.preferences->serverURL(); }
 void AppModel::setServerURL(const QString &value) { m_env.preferences->setServerURL(value); }
+bool AppModel::onboarded() const { return m_env.preferences->onboarded(); }
+void AppModel::setOnboarded(bool value) { m_env.preferences->setOnboarded(value); }
 
 // --- derived ---
 

@@ -52,6 +52,9 @@ class AppModel : public QObject
     Q_PROPERTY(BannerKind bannerKind READ bannerKind NOTIFY bannerChanged)
     Q_PROPERTY(bool bannerRetry READ bannerRetry NOTIFY bannerChanged)
     Q_PROPERTY(bool hasAccount READ hasAccount NOTIFY snapshotChanged)
+    // For the shell: the first-run guide's flag, and the menu's "Join Next Meeting".
+    Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY preferencesChanged)
+    Q_PROPERTY(bool canJoinNext READ canJoinNext NOTIFY nextChanged)
 
 public:
     enum class BannerKind { Error, Offline, Info };
@@ -91,6 +94,8 @@ public:
     void setReminderMinutes(int value);
     [[nodiscard]] QString serverURL() const;
     void setServerURL(const QString &value);
+    [[nodiscard]] bool onboarded() const;
+    void setOnboarded(bool value);
 
     // --- derived, recomputed at every read ---
     [[nodiscard]] Instant now() const;
@@ -136,6 +141,9 @@ public:
     void connectGoogle();
     void copyLink(const EventType &type);
     void join(const Booking &booking);
+    // `next` has a meeting link to open.
+    [[nodiscard]] bool canJoinNext() const;
+    Q_INVOKABLE void joinNext();
     void rescheduleMessage(const Booking &booking);
     [[nodiscard]] QString rescheduleText(const Booking &booking) const;
     void copy(const QString &text);
@@ -163,6 +171,8 @@ Q_SIGNALS:
     void preferencesChanged();
     // Once a minute: everything that depends on the clock reads it again.
     void ticked();
+    // `next` may be another booking: after a new snapshot or a tick.
+    void nextChanged();
 
 private:
     static void run(QCoro::Task<> &&task);

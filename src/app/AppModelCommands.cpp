@@ -113,6 +113,18 @@ void AppModel::join(const Booking &booking)
         openURL(*url);
 }
 
+bool AppModel::canJoinNext() const
+{
+    const std::optional<Booking> booking = next();
+    return booking && booking->meetURL().has_value();
+}
+
+void AppModel::joinNext()
+{
+    if (const std::optional<Booking> booking = next())
+        join(*booking);
+}
+
 void AppModel::openURL(const QUrl &url) const
 {
     m_env.opener->open(url);

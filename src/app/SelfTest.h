@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QStringList>
+#include <QUrl>
+
+class QQmlEngine;
+class QQmlApplicationEngine;
+
+namespace quorvane {
+
+// `quorvane --self-test`: compiles every QML file of the app, loads the shell, and waits for
+// the main window's first frame. Any QML warning or error, or no frame in time, fails it.
+class SelfTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `started` runs since the process began; the report gives the first frame's time on it.
+    SelfTest(QQmlApplicationEngine &engine, QElapsedTimer started, QObject *parent = nullptr);
+    ~SelfTest() override;
+
+    // Every QML file below `folder` (of the resources, by default) but singletons, sorted, as URLs.
+    [[nodiscard]] static QStringList qmlFiles(const QString &folder = QStringLiteral(":/qt/qml/Quorvane"));
+
+    // Compiles `files`, loads `root`, waits for the window named "main" to draw; prints one line
+    // to stdout on success, each problem to stderr. Gives the process's exit code.
+    int run(const QUrl &root, const QStringList &files, int timeoutMs = 30'000);
+
+    [[nodiscard]] const QStringList &problems() const { return m_problems; }
+    [[nodiscard]] qint64 firstFrameMs() const { return m_firstFrameMs; }
+
+private:
+    void compile(const QStringList &files);
+    void waitForFirstFrame(int timeoutMs);
+    static void onMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);
+
+    QQmlApplicationEngine &m_engine;
+    QElapsedTimer m_started;
+    QStringList m_problems;
+    qint64 m_firstFrameMs = -1;
+};
+
+} // namespace quorvane

@@ -1,0 +1,153 @@
+#include "SingleInstance.h"
+
+#include <QDir>
+#include <QMutex>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+
+namespace {
+
+// The running instance, on a thread of its own, as another process would be: the launch
+// under test blocks while it talks to it.
+class RunningInstance
+{
+public:
+    explicit RunningInstance(const QString &path)
+        : instance(path)
+    {
+        listening = instance.listen();
+        QObject::connect(&instance, &SingleInstance::requested, &instance, [this](const QString &id) {
+            const QMutexLocker lock(&mutex);
+            received.append(id);
+        }, Qt::DirectConnection);
+        instance.moveToThread(&thread);
+        thread.start();
+    }
+    ~RunningInstance()
+    {
+        QThread *home = QThread::currentThread();
+        QMetaObject::invokeMethod(&instance, [this, home] { instance.moveToThread(home); },
+                                  Qt::BlockingQueuedConnection);
+        thread.quit();
+        thread.wait();
+    }
+    QStringList requests()
+    {
+        const QMutexLocker lock(&mutex);
+        return received;
+    }
+
+    SingleInstance instance;
+    bool listening = false;
+
+private:
+    QThread thread;
+    QMutex mutex;
+    QStringList received;
+};
+
+// A socket file that nobody listens on: what an instance that crashed leaves behind.
+bool leaveDeadSocket(const QString &path)
+{
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const QByteArray name = QFile::encodeName(path);
+    qstrncpy(address.sun_path, name.constData(), sizeof(address.sun_path));
+    const bool bound = ::bind(fd, reinterpret_cast<sockaddr *>(&address), sizeof(address)) == 0;
+    ::close(fd);
+    return bound && QFileInfo::exists(path);
+}
+
+} // namespace
+
+class TestSingleInstance : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QVERIFY(m_folder.isValid()); }
+
+    void firstLaunchRunsAndListens()
+    {
+        SingleInstance first(path());
+        QVERIFY(!first.handOver(u"main"_s));
+        QVERIFY(first.isListening());
+    }
+
+    void laterLaunchesHandTheirWindowOver_data()
+    {
+        QTest::addColumn<QStringList>("requests");
+        QTest::newRow("share") << QStringList{u"share"_s};
+        QTest::newRow("several in a row, in order") << QStringList{u"main"_s, u"about"_s, u"share"_s, u"main"_s};
+    }
+    void laterLaunchesHandTheirWindowOver()
+    {
+        QFETCH(QStringList, requests);
+        RunningInstance running(path());
+        QVERIFY(running.listening);
+
+        for (const QString &request : requests) {
+            SingleInstance launch(path());
+            QVERIFY(launch.handOver(request));
+            QVERIFY(!launch.isListening());
+        }
+        // The running instance passes a request on before it confirms it.
+        QCOMPARE(running.requests(), requests);
+    }
+
+    void aSecondListenerIsRefusedWhileTheFirstLives()
+    {
+        RunningInstance running(path());
+        SingleInstance rival(path());
+        QVERIFY(!rival.listen());
+        QVERIFY(running.requests().isEmpty()); // asking whether anyone listens is no request
+    }
+
+    void aSocketLeftByACrashIsTakenOver()
+    {
+        QVERIFY(leaveDeadSocket(path()));
+        SingleInstance probe(path());
+        QVERIFY(!probe.forward(u"main"_s));
+
+        RunningInstance running(path());
+        QVERIFY(running.listening);
+        SingleInstance launch(path());
+        QVERIFY(launch.handOver(u"about"_s));
+        QCOMPARE(running.requests(), QStringList{u"about"_s});
+    }
+
+    void withoutASocketTheAppStillRuns()
+    {
+        SingleInstance launch(m_folder.filePath(u"no-such-folder/instance"_s));
+        QVERIFY(!launch.handOver(u"main"_s));
+        QVERIFY(!launch.isListening());
+    }
+
+    void theSocketLivesInTheUsersRuntimeFolder()
+    {
+        const QByteArray saved = qgetenv("XDG_RUNTIME_DIR");
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.path()));
+        QCOMPARE(SingleInstance::defaultPath(), m_folder.filePath(u"com.peldrachen.quorvane.instance"_s));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.filePath(u"gone"_s)));
+        QVERIFY(SingleInstance::defaultPath().startsWith(QDir::tempPath()));
+        QVERIFY(SingleInstance::defaultPath().endsWith(u"-%1"_s.arg(::getuid())));
+        qputenv("XDG_RUNTIME_DIR", saved);
+    }
+
+private:
+    [[nodiscard]] QString path() const { return m_folder.filePath(u"instance"_s); }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(TestSingleInstance)
+#include "tst_single_instance.moc"
