@@ -1,0 +1,73 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+// What the application is, its version, its links and who made it.
+Item {
+    id: root
+
+    readonly property AboutModel about: Setup.about
+
+    implicitWidth: 360 + 2 * 28
+    implicitHeight: column.implicitHeight + 2 * 28
+
+    ColumnLayout {
+        id: column
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: parent.top
+        anchors.topMargin: 28
+        width: 360
+        spacing: 10
+
+        AppMark {
+            Layout.alignment: Qt.AlignHCenter
+            size: 104
+        }
+        Label {
+            Layout.alignment: Qt.AlignHCenter
+            text: "Quorvane"
+            font.pixelSize: Typography.title
+            font.bold: true
+        }
+        Label {
+            objectName: "versionLine"
+            Layout.alignment: Qt.AlignHCenter
+            text: root.about.versionLine
+            color: SystemColors.secondary
+        }
+        Label {
+            Layout.alignment: Qt.AlignHCenter
+            text: "Smart scheduling links for your Google Calendar."
+            font.pixelSize: Typography.callout
+        }
+        LinkRow {
+            objectName: "productLinks"
+            Layout.alignment: Qt.AlignHCenter
+            links: root.about.links
+            onActivated: url => root.about.open(url)
+        }
+        MenuSeparator {
+            Layout.fillWidth: true
+            Layout.topMargin: 4
+            Layout.bottomMargin: 4
+            padding: 0
+        }
+        AuthorCard {
+            Layout.fillWidth: true
+            about: root.about
+        }
+        Label {
+            objectName: "legalLine"
+            Layout.fillWidth: true
+            visible: text.length > 0
+            text: root.about.legal
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            horizontalAlignment: Text.AlignHCenter
+            font.pixelSize: Typography.caption
+            color: SystemColors.secondary
+        }
+    }
+}

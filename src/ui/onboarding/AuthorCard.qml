@@ -1,0 +1,42 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+// Who made the application, and where to find them.
+ColumnLayout {
+    id: root
+
+    required property AboutModel about
+
+    visible: about.madeBy.length > 0
+    spacing: 6
+
+    RowLayout {
+        spacing: 6
+        Icon {
+            name: "person.crop.circle"
+            size: 18
+        }
+        Label {
+            objectName: "madeBy"
+            text: root.about.madeBy
+            textFormat: Text.PlainText
+            font.pixelSize: Typography.headline
+            font.bold: true
+        }
+    }
+    Label {
+        Layout.fillWidth: true
+        text: "Vibe coded with an AI assistant, one idea at a time."
+        wrapMode: Text.WordWrap
+        font.pixelSize: Typography.callout
+        color: SystemColors.secondary
+    }
+    LinkRow {
+        objectName: "authorLinks"
+        links: root.about.authorLinks
+        onActivated: url => root.about.open(url)
+    }
+}

@@ -1,0 +1,44 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+OnboardingStep {
+    id: root
+
+    required property OnboardingModel guide
+
+    Label {
+        Layout.fillWidth: true
+        text: "You're all set"
+        font.pixelSize: Typography.title
+        font.bold: true
+    }
+    ColumnLayout {
+        Layout.fillWidth: true
+        spacing: 8
+
+        SymbolLabel {
+            Layout.fillWidth: true
+            text: root.guide.paletteTip
+            symbol: "command"
+            color: SystemColors.secondary
+            pixelSize: Typography.callout
+        }
+        SymbolLabel {
+            Layout.fillWidth: true
+            text: root.guide.shareTip
+            symbol: "paperplane"
+            color: SystemColors.secondary
+            pixelSize: Typography.callout
+        }
+        SymbolLabel {
+            Layout.fillWidth: true
+            text: "The tray shows your next meeting"
+            symbol: "menubar.rectangle"
+            color: SystemColors.secondary
+            pixelSize: Typography.callout
+        }
+    }
+}
