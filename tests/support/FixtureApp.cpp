@@ -75,7 +75,7 @@ void FixtureApp::prepare(const Options &options)
     else if (state == State::loading)
         m_transport->mode = FixtureTransport::Mode::silent;
 
-    AppEnvironment env;
+    AppEnvironment &env = m_environment;
     env.clock = &clock;
     env.transport = m_transport;
     env.secrets = &secrets;
@@ -88,6 +88,7 @@ void FixtureApp::prepare(const Options &options)
     env.zone = QString::fromLatin1(FixtureSnapshot::zone);
     env.timings.toast = std::chrono::hours(1); // a toast stays put for a picture
     m_model = std::make_unique<AppModel>(env);
+    m_setup = std::make_unique<SetupServices>(*m_model, env, loginItem);
 
     // The banners as the first refresh would leave them, there before anything starts.
     if (state == State::offline)
@@ -112,6 +113,13 @@ void FixtureApp::registerQmlSingletons()
                                                                                  QQmlEngine::CppOwnership);
                                                   return &current->shell();
                                               });
+    qmlRegisterSingletonType<SetupServices>("Quorvane.App", 1, 0, "Setup",
+                                            [](QQmlEngine *, QJSEngine *) -> SetupServices * {
+                                                Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
+                                                QQmlEngine::setObjectOwnership(&current->setup(),
+                                                                               QQmlEngine::CppOwnership);
+                                                return &current->setup();
+                                            });
 }
 
 } // namespace quorvane::test

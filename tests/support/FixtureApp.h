@@ -4,9 +4,11 @@
 #include "Clipboard.h"
 #include "FixedClock.h"
 #include "FixtureTransport.h"
+#include "MemoryLoginItem.h"
 #include "MemorySecretStore.h"
 #include "Preferences.h"
 #include "QuietNotifier.h"
+#include "SetupServices.h"
 #include "ShellController.h"
 #include "UrlOpener.h"
 
@@ -60,12 +62,14 @@ public:
 
     [[nodiscard]] AppModel &model() { return *m_model; }
     [[nodiscard]] ShellController &shell() { return m_shell; }
+    [[nodiscard]] SetupServices &setup() { return *m_setup; }
+    [[nodiscard]] const AppEnvironment &environment() const { return m_environment; }
     [[nodiscard]] Preferences &preferences() { return *m_preferences; }
     [[nodiscard]] FixtureTransport &transport() { return *m_transport; }
     [[nodiscard]] const QString &dataDirectory() const { return m_dataDirectory; }
     [[nodiscard]] static const char *name(State state);
 
-    // Makes `App` and `Shell` in QML resolve to the newest FixtureApp. Once per process,
+    // Makes `App`, `Shell` and `Setup` in QML resolve to the newest FixtureApp. Once per process,
     // before the first engine loads anything; each new engine sees the app alive then.
     static void registerQmlSingletons();
 
@@ -73,6 +77,7 @@ public:
     MemorySecretStore secrets;
     QuietNotifier notifier;
     FixtureClipboard clipboard;
+    MemoryLoginItem loginItem;
     QList<QUrl> opened;
     UrlOpener opener;
 
@@ -84,8 +89,10 @@ private:
     std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<Preferences> m_preferences;
     std::shared_ptr<FixtureTransport> m_transport;
+    AppEnvironment m_environment;
     ShellController m_shell;
     std::unique_ptr<AppModel> m_model;
+    std::unique_ptr<SetupServices> m_setup;
 };
 
 } // namespace quorvane::test

@@ -41,7 +41,7 @@ FixtureTransport::FixtureTransport(Snapshot snapshot, Instant at)
 QCoro::Task<HTTPResponse> FixtureTransport::send(HTTPRequest request, Cancellation cancellation)
 {
     const QUrl url = request.request.url();
-    const QString path = url.path().mid(url.path().indexOf("sync/"_L1));
+    const QString path = url.path().mid(1); // the fixtures' server lives at the root
     requested.append(QString::fromLatin1(request.method) + u' ' + path);
     switch (mode) {
     case Mode::silent:
@@ -65,6 +65,15 @@ QCoro::Task<HTTPResponse> FixtureTransport::send(HTTPRequest request, Cancellati
 HTTPResponse FixtureTransport::answer(const QByteArray &method, const QString &path, const QUrl &url) const
 {
     const QUrlQuery query(url);
+    if (path == "auth/device/start"_L1)
+        return ok(QJsonObject{{u"device_code"_s, u"fixture-device"_s},
+                              {u"user_code"_s, u"WDJB-MJHT"_s},
+                              {u"verification_uri_complete"_s, url.resolved(QUrl(u"/device?code=WDJB-MJHT"_s)).toString()}});
+    if (path == "auth/device/poll"_L1) {
+        if (approveSignIn)
+            return ok(QJsonObject{{u"access_token"_s, u"fixture-token"_s}});
+        return HTTPResponse{428, R"({"error":"authorization_pending"})"};
+    }
     if (method != "GET")
         return ok(QJsonObject{{u"ok"_s, true}});
     if (path == "sync/me"_L1 && data.account)

@@ -8,8 +8,9 @@
 namespace quorvane::test {
 
 // Answers the sync API from a snapshot held in memory, without a network: every GET of the
-// refresh cycle, slots for sharing, and an empty success for commands. Other modes stand
-// for a server that is unreachable, broken, or never answers.
+// refresh cycle, slots for sharing, an empty success for commands, and a device sign-in that
+// waits for approval (or is approved at once). Other modes stand for a server that is
+// unreachable, broken, or never answers.
 class FixtureTransport final : public HTTPTransport
 {
 public:
@@ -26,9 +27,10 @@ public:
 
     Mode mode = Mode::answer;
     int failureStatus = 500;
+    bool approveSignIn = false; // the device sign-in's poll gets a token instead of "pending"
     Snapshot data;
     Instant now;           // the server's time, for changes and slots
-    QStringList requested; // "GET sync/me", in order of arrival
+    QStringList requested; // "GET sync/me", "POST auth/device/start", in order of arrival
 
 private:
     [[nodiscard]] HTTPResponse answer(const QByteArray &method, const QString &path, const QUrl &url) const;
