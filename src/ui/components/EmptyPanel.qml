@@ -1,35 +1,59 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import Quorvane.App
 
-// What a screen shows when it has nothing to show: a title, a symbol and a line of help.
+// What a screen shows when it has nothing to show: a symbol, a title and a line of help,
+// and any buttons given as children below them.
 Item {
     id: root
 
     property string title
     property string symbol
     property string description
+    default property alias actions: actionRow.data
+
+    implicitWidth: column.implicitWidth
+    implicitHeight: column.implicitHeight + 40
 
     ColumnLayout {
+        id: column
         anchors.centerIn: parent
-        width: Math.min(parent.width - 40, 380)
+        width: Math.min(root.width - 40, 380)
         spacing: 8
 
+        Icon {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.bottomMargin: 4
+            visible: root.symbol.length > 0
+            name: root.symbol
+            size: 36
+            color: SystemColors.secondary
+        }
         Label {
+            objectName: "emptyTitle"
             Layout.fillWidth: true
             horizontalAlignment: Text.AlignHCenter
             text: root.title
             textFormat: Text.PlainText
-            font.pixelSize: 20
+            wrapMode: Text.WordWrap
+            font.pixelSize: Typography.title3
             font.bold: true
         }
         Label {
             Layout.fillWidth: true
+            visible: root.description.length > 0
             horizontalAlignment: Text.AlignHCenter
             text: root.description
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            opacity: 0.65
+            color: SystemColors.secondary
+        }
+        Row {
+            id: actionRow
+            Layout.alignment: Qt.AlignHCenter
+            Layout.topMargin: children.length > 0 ? 6 : 0
+            spacing: 8
         }
     }
 }

@@ -1,21 +1,103 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Layouts
 import Quorvane.App
 import Quorvane.Components
 
-// The frame around all screens: sidebar, banner, the current section.
+// The frame around all screens: the sidebar at the left; at the right the banner above the
+// current section's screen, or the sign-in hero while nobody is signed in.
 ApplicationWindow {
     id: window
 
-    title: qsTr("Quorvane")
+    property bool sidebarVisible: true
+    // The toolbar's actions, for the menus to share: one Action, one shortcut.
+    readonly property alias paletteAction: toolBar.paletteAction
+    readonly property alias refreshAction: toolBar.refreshAction
+
+    title: frameModel.title
     width: 1180
     height: 760
     minimumWidth: 940
     minimumHeight: 620
 
-    EmptyPanel {
-        anchors.fill: parent
-        title: App.section
-        description: App.needsSignIn ? qsTr("Not signed in") : qsTr("Signed in")
+    MainWindowModel {
+        id: frameModel
+        app: App
     }
+
+    header: MainToolBar {
+        id: toolBar
+        subtitle: frameModel.subtitle
+        sidebarVisible: window.sidebarVisible
+        onToggleSidebar: window.sidebarVisible = !window.sidebarVisible
+    }
+
+    SplitView {
+        id: split
+        anchors.fill: parent
+        orientation: Qt.Horizontal
+
+        Sidebar {
+            objectName: "sidebar"
+            visible: window.sidebarVisible
+            frame: frameModel
+            SplitView.minimumWidth: 190
+            SplitView.preferredWidth: 210
+            SplitView.maximumWidth: 260
+        }
+
+        Rectangle {
+            SplitView.fillWidth: true
+            color: palette.base
+
+            ColumnLayout {
+                anchors.fill: parent
+                spacing: 0
+
+                BannerHost {
+                    Layout.fillWidth: true
+                }
+                Item {
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+
+                    SignInHero {
+                        objectName: "signInHero"
+                        anchors.fill: parent
+                        visible: frameModel.showsSignInHero
+                    }
+                    SectionContent {
+                        objectName: "sectionContent"
+                        anchors.fill: parent
+                        frame: frameModel
+                        visible: !frameModel.showsSignInHero
+                    }
+                }
+            }
+        }
+    }
+
+    // The command palette covers the whole window while it is asked for; its screen sets
+    // this loader's source. Until then Escape at least takes the request back.
+    Loader {
+        id: commandPaletteSlot
+        objectName: "commandPaletteSlot"
+        anchors.fill: parent
+        z: 10
+        active: App.showPalette
+    }
+    Shortcut {
+        sequence: "Escape"
+        enabled: App.showPalette && commandPaletteSlot.status !== Loader.Ready
+        onActivated: App.showPalette = false
+    }
+
+    // The new-poll sheet, shown while asked for; the polls screen sets this loader's source.
+    Loader {
+        id: newPollSheetSlot
+        objectName: "newPollSheetSlot"
+        active: App.showNewPoll
+    }
+
+    menuBar: AppMenuBar { paletteAction: window.paletteAction }
 }

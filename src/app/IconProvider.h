@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QQuickImageProvider>
+
+namespace quorvane {
+
+// Draws the bundled icons in any colour: "image://icon/<symbol>?color=<RRGGBB or AARRGGBB>".
+// The SVGs are drawn as they are and then filled with the colour where they have ink, so
+// one file serves every tint and anti-aliasing survives. An unknown symbol gives a
+// transparent image of the requested size, so a missing icon leaves a gap and no error.
+class IconProvider : public QQuickImageProvider
+{
+public:
+    IconProvider();
+
+    QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
+
+    // The same drawing without an engine: the symbol at `size` in `color`.
+    [[nodiscard]] static QImage render(const QString &symbol, const QColor &color, const QSize &size);
+};
+
+} // namespace quorvane

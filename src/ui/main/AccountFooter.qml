@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+// Who is signed in, and whether the calendar is live.
+Rectangle {
+    id: root
+
+    required property MainWindowModel frame
+
+    implicitHeight: row.implicitHeight + 16
+    radius: 10
+    color: Qt.rgba(1, 1, 1, 0.55)
+    border.width: 1
+    border.color: Qt.rgba(0, 0, 0, 0.06)
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.frame.accountName + ", " + root.frame.statusText
+
+    RowLayout {
+        id: row
+        anchors.fill: parent
+        anchors.margins: 8
+        spacing: 8
+
+        Rectangle {
+            width: 26
+            height: 26
+            radius: 13
+            Accessible.ignored: true
+            gradient: Gradient {
+                orientation: Gradient.Horizontal
+                GradientStop { position: 0.0; color: SystemColors.orange }
+                GradientStop { position: 1.0; color: SystemColors.pink }
+            }
+            Label {
+                objectName: "initials"
+                anchors.centerIn: parent
+                text: root.frame.initials
+                textFormat: Text.PlainText
+                color: "white"
+                font.pixelSize: Typography.caption
+                font.bold: true
+            }
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 4
+            Label {
+                objectName: "accountName"
+                Layout.fillWidth: true
+                text: root.frame.accountName
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                font.pixelSize: Typography.caption
+                font.weight: Font.DemiBold
+            }
+            RowLayout {
+                spacing: 5
+                Rectangle {
+                    objectName: "statusDot"
+                    width: 6
+                    height: 6
+                    radius: 3
+                    color: root.frame.statusColor
+                }
+                Label {
+                    objectName: "statusText"
+                    Layout.fillWidth: true
+                    text: root.frame.statusText
+                    elide: Text.ElideRight
+                    font.pixelSize: Typography.caption2
+                    color: SystemColors.secondary
+                }
+            }
+        }
+    }
+}

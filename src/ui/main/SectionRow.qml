@@ -1,0 +1,76 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+// One section in the sidebar: its symbol, its title and, when there is something to count,
+// a badge. Choosing the row that is already chosen changes nothing.
+ItemDelegate {
+    id: row
+
+    required property int index
+    required property string sectionId
+    required property string title
+    required property string symbol
+    required property string hint
+    required property int badge
+
+    signal activated(string section)
+
+    readonly property bool selected: App.section === sectionId
+
+    objectName: "sectionRow_" + sectionId
+    highlighted: selected
+    focusPolicy: Qt.NoFocus
+    implicitHeight: 28
+    leftPadding: 8
+    rightPadding: 8
+    topPadding: 0
+    bottomPadding: 0
+    onClicked: activated(sectionId)
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title
+    Accessible.description: hint
+    Accessible.selected: selected
+
+    background: Rectangle {
+        radius: 6
+        color: row.selected ? SystemColors.accent
+                            : row.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent"
+    }
+
+    contentItem: RowLayout {
+        spacing: 8
+        Icon {
+            name: row.symbol
+            size: 15
+            color: row.selected ? "white" : SystemColors.accent
+        }
+        Label {
+            Layout.fillWidth: true
+            text: row.title
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: row.selected ? "white" : palette.windowText
+        }
+        Label {
+            objectName: "badge"
+            visible: row.badge > 0
+            text: row.badge
+            leftPadding: 6
+            rightPadding: 6
+            topPadding: 1
+            bottomPadding: 1
+            font.pixelSize: Typography.caption
+            font.weight: Font.DemiBold
+            color: row.selected ? "white" : SystemColors.secondary
+            Accessible.name: qsTr("%n item(s)", "", row.badge)
+            background: Rectangle {
+                radius: height / 2
+                color: row.selected ? Qt.rgba(1, 1, 1, 0.25) : Qt.rgba(0, 0, 0, 0.07)
+            }
+        }
+    }
+}

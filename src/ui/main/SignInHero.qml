@@ -1,0 +1,46 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+// In place of every screen while nobody is signed in and nothing is cached.
+Item {
+    id: root
+
+    ColumnLayout {
+        anchors.centerIn: parent
+        width: Math.min(root.width - 80, 460)
+        spacing: 18
+
+        AppMark {
+            Layout.alignment: Qt.AlignHCenter
+            size: 96
+        }
+        Label {
+            objectName: "heroTitle"
+            Layout.alignment: Qt.AlignHCenter
+            text: qsTr("Sign in to Quorvane")
+            font.pixelSize: Typography.largeTitle
+            font.bold: true
+        }
+        Label {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.maximumWidth: 380
+            Layout.preferredWidth: 380
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
+            color: SystemColors.secondary
+            text: qsTr("Connect this computer to your Quorvane account to see bookings, edit availability and share times.")
+        }
+        // The sign-in panel of the onboarding module goes here: set `source` to its
+        // "qrc:/qt/qml/Quorvane/Onboarding/SignInPanel.qml" once that module is linked.
+        Loader {
+            id: signInPanelSlot
+            objectName: "signInPanelSlot"
+            Layout.alignment: Qt.AlignHCenter
+            Layout.maximumWidth: 380
+            Layout.preferredWidth: 380
+        }
+    }
+}

@@ -1,0 +1,280 @@
+// The shared view pieces' logic: booking status pills, skeleton bars, hex colours, banner
+// looks, and the icon table with its tinting provider.
+#include "AppSection.h"
+#include "BannerStyle.h"
+#include "HexColor.h"
+#include "IconProvider.h"
+#include "Skeleton.h"
+#include "StatusLabel.h"
+#include "Symbols.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+
+Q_DECLARE_METATYPE(quorvane::Booking)
+Q_DECLARE_METATYPE(std::optional<quorvane::StatusLabel>)
+
+namespace {
+const Instant now = QDateTime(QDate(2026, 3, 10), QTime(13, 40), Qt::UTC);
+
+Booking booking(BookingStatus status, qint64 endFromNow, std::optional<bool> noShow)
+{
+    Booking b;
+    b.id = u"b1"_s;
+    b.status = status;
+    b.end = now.addSecs(endFromNow);
+    b.start = b.end.addSecs(-1800);
+    b.noShow = noShow;
+    return b;
+}
+
+// Pixels the icon drew, and whether all of them carry the tint's colour.
+struct Ink {
+    int pixels = 0;
+    bool allTinted = true;
+};
+
+Ink inkOf(const QImage &image, const QColor &tint)
+{
+    Ink ink;
+    const QImage plain = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < plain.height(); ++y) {
+        for (int x = 0; x < plain.width(); ++x) {
+            const QColor c = plain.pixelColor(x, y);
+            if (c.alpha() == 0)
+                continue;
+            ++ink.pixels;
+            // Faint edge pixels lose precision to premultiplication; judge the solid ones.
+            if (c.alpha() > 128
+                && (qAbs(c.red() - tint.red()) > 3 || qAbs(c.green() - tint.green()) > 3
+                    || qAbs(c.blue() - tint.blue()) > 3))
+                ink.allTinted = false;
+        }
+    }
+    return ink;
+}
+} // namespace
+
+class TestViewPieces : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void statusLabel_data()
+    {
+        QTest::addColumn<Booking>("booking");
+        QTest::addColumn<std::optional<StatusLabel>>("expected");
+        const std::optional<StatusLabel> none;
+        const auto label = [](const char *text, Tint tint) {
+            return std::optional<StatusLabel>(StatusLabel{QString::fromUtf8(text), tint});
+        };
+        QTest::newRow("no-show stands above cancelled")
+            << booking(BookingStatus::cancelled, -600, true) << label("No-show", Tint::red);
+        QTest::newRow("no-show stands above pending")
+            << booking(BookingStatus::pending, 3600, true) << label("No-show", Tint::red);
+        QTest::newRow("pending, even once over")
+            << booking(BookingStatus::pending, -600, std::nullopt) << label("Pending", Tint::orange);
+        QTest::newRow("cancelled") << booking(BookingStatus::cancelled, 3600, false)
+                                   << label("Cancelled", Tint::secondary);
+        QTest::newRow("rejected reads Declined")
+            << booking(BookingStatus::rejected, 3600, false) << label("Declined", Tint::red);
+        QTest::newRow("confirmed and ended") << booking(BookingStatus::confirmed, -1, std::nullopt)
+                                             << label("Done", Tint::secondary);
+        QTest::newRow("confirmed, in progress") << booking(BookingStatus::confirmed, 600, std::nullopt) << none;
+        QTest::newRow("confirmed, ending this instant") << booking(BookingStatus::confirmed, 0, false) << none;
+        QTest::newRow("unknown and ended") << booking(BookingStatus::unknown, -3600, std::nullopt)
+                                           << label("Done", Tint::secondary);
+        QTest::newRow("unknown, still to come") << booking(BookingStatus::unknown, 3600, std::nullopt) << none;
+    }
+    void statusLabel()
+    {
+        QFETCH(Booking, booking);
+        QFETCH(std::optional<StatusLabel>, expected);
+        const std::optional<StatusLabel> actual = StatusLabel::of(booking, now);
+        QCOMPARE(actual.has_value(), expected.has_value());
+        if (expected) {
+            QCOMPARE(actual->text, expected->text);
+            QCOMPARE(int(actual->tint), int(expected->tint));
+        }
+    }
+
+    void skeletonBars_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("second");
+        QTest::newRow("0") << 0 << 140 << 90;
+        QTest::newRow("1") << 1 << 177 << 143;
+        QTest::newRow("2") << 2 << 214 << 126;
+        QTest::newRow("3") << 3 << 161 << 109;
+        QTest::newRow("4") << 4 << 198 << 92;
+        QTest::newRow("10 wraps both") << 10 << 150 << 130;
+    }
+    void skeletonBars()
+    {
+        QFETCH(int, row);
+        QFETCH(int, first);
+        QFETCH(int, second);
+        QCOMPARE(Skeleton::firstBarWidth(row), first);
+        QCOMPARE(Skeleton::secondBarWidth(row), second);
+    }
+
+    void hexColor_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QColor>("expected");
+        const QColor accent(0x0A, 0x84, 0xFF);
+        QTest::newRow("bare digits") << u"0A84FF"_s << accent;
+        QTest::newRow("with #") << u"#0A84FF"_s << accent;
+        QTest::newRow("# on both ends, several") << u"##0A84FF###"_s << accent;
+        QTest::newRow("lower case") << u"#34c759"_s << QColor(0x34, 0xC7, 0x59);
+        QTest::newRow("empty falls back") << QString() << accent;
+        QTest::newRow("only #") << u"##"_s << accent;
+        QTest::newRow("not hex falls back") << u"#12G456"_s << accent;
+        QTest::newRow("blank inside falls back") << u"#12 456"_s << accent;
+        QTest::newRow("eight digits lose the top byte") << u"#80112233"_s << QColor(0x11, 0x22, 0x33);
+        QTest::newRow("three digits are not expanded") << u"#FFF"_s << QColor(0, 15, 255);
+        QTest::newRow("sixteen digits still fit") << u"FFFFFFFFFF112233"_s << QColor(0x11, 0x22, 0x33);
+        QTest::newRow("seventeen digits overflow") << u"1FFFFFFFFFF112233"_s << accent;
+    }
+    void hexColor()
+    {
+        QFETCH(QString, text);
+        QFETCH(QColor, expected);
+        const QColor actual = HexColor::parse(text);
+        QCOMPARE(actual.rgba(), expected.rgba());
+    }
+
+    void hexString_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("round trip") << HexColor::parse(u"#123ABC"_s) << u"#123ABC"_s;
+        QTest::newRow("upper case, padded") << QColor(0x0a, 0x04, 0x0f) << u"#0A040F"_s;
+        QTest::newRow("alpha dropped") << QColor(0x11, 0x22, 0x33, 0x40) << u"#112233"_s;
+        QTest::newRow("other colour spaces converted") << QColor::fromHsv(0, 255, 255) << u"#FF0000"_s;
+        QTest::newRow("invalid colour") << QColor() << u"#0A84FF"_s;
+    }
+    void hexString()
+    {
+        QFETCH(QColor, color);
+        QFETCH(QString, expected);
+        QCOMPARE(HexColor::string(color), expected);
+    }
+
+    void bannerLook_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("symbol");
+        QTest::addColumn<QColor>("tint");
+        QTest::newRow("error") << int(Banner::Kind::error) << u"exclamationmark.triangle.fill"_s
+                               << Tints::color(Tint::orange);
+        QTest::newRow("offline") << int(Banner::Kind::offline) << u"wifi.slash"_s << Tints::color(Tint::secondary);
+        QTest::newRow("info") << int(Banner::Kind::info) << u"checkmark.circle.fill"_s << Tints::color(Tint::green);
+    }
+    void bannerLook()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, symbol);
+        QFETCH(QColor, tint);
+        const auto qmlKind = AppModel::BannerKind(kind);
+        QCOMPARE(BannerStyle::symbolOf(qmlKind), symbol);
+        QCOMPARE(BannerStyle::tintOf(qmlKind), tint);
+        QVERIFY(!Symbols::file(BannerStyle::symbolOf(qmlKind)).isEmpty());
+    }
+
+    // Every icon the table names is bundled and draws something.
+    void everySymbolHasItsIcon()
+    {
+        const QStringList names = Symbols::names();
+        QVERIFY(names.size() > 50);
+        for (const QString &name : names) {
+            const QString path = Symbols::file(name);
+            QVERIFY2(QFile::exists(path), qPrintable(name + u" -> "_s + path));
+            QVERIFY2(inkOf(IconProvider::render(name, Qt::black, QSize(24, 24)), Qt::black).pixels > 0,
+                     qPrintable(name));
+        }
+        QVERIFY(QFile::exists(u":/qt/qml/Quorvane/Components/icons/LICENSE"_s));
+    }
+
+    void symbolsTheScreensName_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const AppSection section : Section::allCases())
+            QTest::newRow(qPrintable(Section::id(section))) << Section::symbol(section);
+        for (const char *name :
+             {"video.fill", "phone.fill", "mappin.and.ellipse", "text.bubble.fill", "paperplane", "paperplane.fill",
+              "command", "arrow.clockwise", "link", "xmark", "calendar.badge.clock", "macwindow", "gearshape", "power",
+              "person.crop.circle", "cup.and.saucer", "calendar.badge.exclamationmark", "calendar.badge.checkmark",
+              "magnifyingglass", "sidebar.right", "wand.and.stars", "clock.badge.questionmark", "star.fill",
+              "wifi.exclamationmark", "person.badge.key", "bell.slash", "bell.badge", "info.circle", "plus", "trash",
+              "doc.on.doc", "questionmark.circle", "checkmark", "menubar.rectangle", "safari",
+              "person.fill.questionmark", "arrow.forward.circle", "xmark.circle", "minus.circle.fill"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void symbolsTheScreensName()
+    {
+        QFETCH(QString, name);
+        QVERIFY2(!Symbols::file(name).isEmpty(), qPrintable(name));
+    }
+
+    void unknownSymbol()
+    {
+        QVERIFY(Symbols::file(u"no.such.symbol"_s).isEmpty());
+        IconProvider provider;
+        QSize size;
+        const QImage image = provider.requestImage(u"no.such.symbol?color=ff0000"_s, &size, QSize(20, 20));
+        QCOMPARE(size, QSize(20, 20));
+        QCOMPARE(inkOf(image, Qt::red).pixels, 0);
+    }
+
+    void providerTints_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QSize>("requested");
+        QTest::addColumn<QSize>("expectedSize");
+        QTest::addColumn<QColor>("tint");
+        QTest::newRow("hex without #") << u"xmark?color=ff3b30"_s << QSize(32, 32) << QSize(32, 32)
+                                       << QColor(0xFF, 0x3B, 0x30);
+        QTest::newRow("encoded #") << u"link?color=%2334C759"_s << QSize(24, 24) << QSize(24, 24)
+                                   << QColor(0x34, 0xC7, 0x59);
+        QTest::newRow("no colour is black") << u"calendar"_s << QSize(16, 16) << QSize(16, 16) << QColor(Qt::black);
+        QTest::newRow("no size is 16") << u"sun.max?color=0000ff"_s << QSize() << QSize(16, 16) << QColor(Qt::blue);
+        QTest::newRow("one side given is square") << u"clock?color=00ff00"_s << QSize(0, 40) << QSize(40, 40)
+                                                  << QColor(Qt::green);
+    }
+    void providerTints()
+    {
+        QFETCH(QString, id);
+        QFETCH(QColor, tint);
+        QFETCH(QSize, expectedSize);
+        QFETCH(QSize, requested);
+        IconProvider provider;
+        QSize size;
+        const QImage image = provider.requestImage(id, &size, requested);
+        QCOMPARE(size, expectedSize);
+        QCOMPARE(image.size(), expectedSize);
+        const Ink ink = inkOf(image, tint);
+        QVERIFY(ink.pixels > 10);
+        QVERIFY(ink.allTinted);
+    }
+
+    void providerKeepsTheTintsAlpha()
+    {
+        IconProvider provider;
+        const QImage image = provider.requestImage(u"xmark?color=80ff0000"_s, nullptr, QSize(32, 32));
+        int maxAlpha = 0;
+        const QImage plain = image.convertToFormat(QImage::Format_ARGB32);
+        for (int y = 0; y < plain.height(); ++y)
+            for (int x = 0; x < plain.width(); ++x)
+                maxAlpha = std::max(maxAlpha, plain.pixelColor(x, y).alpha());
+        QVERIFY2(maxAlpha > 100 && maxAlpha < 140, qPrintable(QString::number(maxAlpha)));
+    }
+};
+
+QTEST_MAIN(TestViewPieces)
+#include "tst_view_pieces.moc"

@@ -1,0 +1,255 @@
+// The main window's models over a whole application model at a fixed moment: the section
+// rows and their badges, the share links, and the frame's texts in each state.
+#include "FixtureApp.h"
+#include "FixtureSnapshot.h"
+#include "Keychain.h"
+#include "MainWindowModel.h"
+#include "SectionListModel.h"
+#include "ShareLinkModel.h"
+#include "Tint.h"
+
+#include <QAbstractItemModelTester>
+#include <QCoroTask>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+using test::FixtureApp;
+
+Q_DECLARE_METATYPE(quorvane::test::FixtureApp::State)
+
+namespace {
+QVariant roleData(const QAbstractItemModel &model, int row, int role)
+{
+    return model.data(model.index(row, 0), role);
+}
+
+void refresh(AppModel &model)
+{
+    QCoro::waitFor(model.refresh(false));
+}
+} // namespace
+
+class TestFrameModels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sectionRows()
+    {
+        FixtureApp app;
+        SectionListModel rows;
+        QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        rows.setApp(&app.model());
+        const QStringList ids{u"today"_s, u"bookings"_s, u"types"_s, u"availability"_s, u"polls"_s, u"insights"_s};
+        QCOMPARE(rows.rowCount(), 6);
+        for (int row = 0; row < 6; ++row) {
+            QCOMPARE(roleData(rows, row, SectionListModel::IdRole).toString(), ids[row]);
+            QCOMPARE(rows.idAt(row), ids[row]);
+            QCOMPARE(rows.indexOf(ids[row]), row);
+            QCOMPARE(roleData(rows, row, SectionListModel::HintRole).toString(),
+                     u"Shortcut Ctrl+%1"_s.arg(row + 1));
+        }
+        QCOMPARE(roleData(rows, 2, SectionListModel::TitleRole).toString(), u"Event Types"_s);
+        QCOMPARE(roleData(rows, 5, SectionListModel::SymbolRole).toString(), u"chart.xyaxis.line"_s);
+        QCOMPARE(rows.idAt(6), QString());
+        QCOMPARE(rows.indexOf(u"settings"_s), -1);
+        QVERIFY(rows.roleNames().values().contains("sectionId"));
+    }
+
+    // Today counts today's coming meetings, Bookings every coming one; the rest show none.
+    void badges()
+    {
+        FixtureApp app;
+        AppModel &model = app.model();
+        SectionListModel rows;
+        QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        rows.setApp(&model);
+        const int today = roleData(rows, 0, SectionListModel::BadgeRole).toInt();
+        const int bookings = roleData(rows, 1, SectionListModel::BadgeRole).toInt();
+        QVERIFY(today > 0);
+        QCOMPARE(today, int(model.today().size()));
+        QCOMPARE(bookings, int(model.upcoming().size()));
+        QVERIFY(bookings > today);
+        for (int row = 2; row < 6; ++row)
+            QCOMPARE(roleData(rows, row, SectionListModel::BadgeRole).toInt(), 0);
+    }
+
+    // Meetings that end leave the badges at the next minute tick, without any refresh.
+    void badgesFollowTheClock()
+    {
+        FixtureApp app;
+        AppModel &model = app.model();
+        SectionListModel rows;
+        rows.setApp(&model);
+        QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+        const int before = roleData(rows, 0, SectionListModel::BadgeRole).toInt();
+        app.clock.set(QDateTime(QDate(2026, 3, 11), QTime(3, 59), Qt::UTC)); // 23:59 in New York (EDT)
+        Q_EMIT model.ticked();
+        QVERIFY(!changed.isEmpty());
+        QVERIFY(changed.last().at(2).value<QList<int>>().contains(SectionListModel::BadgeRole));
+        QCOMPARE(roleData(rows, 0, SectionListModel::BadgeRole).toInt(), 0);
+        QVERIFY(before > 0);
+    }
+
+    void badgesFollowTheSnapshot()
+    {
+        FixtureApp app;
+        AppModel &model = app.model();
+        SectionListModel rows;
+        QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        rows.setApp(&model);
+        app.transport().data = test::FixtureSnapshot::empty();
+        refresh(model);
+        QCOMPARE(roleData(rows, 0, SectionListModel::BadgeRole).toInt(), 0);
+        QCOMPARE(roleData(rows, 1, SectionListModel::BadgeRole).toInt(), 0);
+    }
+
+    void shareLinks()
+    {
+        FixtureApp app;
+        ShareLinkModel links;
+        QAbstractItemModelTester tester(&links, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        links.setApp(&app.model());
+        const QList<EventType> active = app.model().activeTypes();
+        QVERIFY(active.size() < app.model().eventTypes().size()); // the fixture has an inactive type
+        QCOMPARE(links.count(), int(active.size()));
+        const QString base = app.model().baseURL().toString();
+        for (int row = 0; row < links.count(); ++row) {
+            const EventType &type = active[row];
+            const QString link = base + u"/ilse/"_s + type.slug;
+            QCOMPARE(roleData(links, row, ShareLinkModel::TitleRole).toString(), type.title);
+            QCOMPARE(roleData(links, row, ShareLinkModel::LinkRole).toString(), link);
+            QCOMPARE(roleData(links, row, ShareLinkModel::ToolTipRole).toString(), u"Copy "_s + link);
+            QCOMPARE(roleData(links, row, ShareLinkModel::AccessibleRole).toString(),
+                     u"Copy link for "_s + type.title);
+            QCOMPARE(roleData(links, row, ShareLinkModel::ColorRole).value<QColor>(), QColor(type.colorHex));
+        }
+    }
+
+    void copyingALink()
+    {
+        FixtureApp app;
+        ShareLinkModel links;
+        links.setApp(&app.model());
+        links.copyLink(1);
+        QCOMPARE(app.clipboard.texts, QStringList{roleData(links, 1, ShareLinkModel::LinkRole).toString()});
+        QCOMPARE(app.model().banner()->kind, Banner::Kind::info);
+        links.copyLink(-1);
+        links.copyLink(links.count());
+        QCOMPARE(app.clipboard.texts.size(), 1);
+    }
+
+    void shareLinksFollowTheServer()
+    {
+        FixtureApp app;
+        AppModel &model = app.model();
+        ShareLinkModel links;
+        QAbstractItemModelTester tester(&links, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        links.setApp(&model);
+        QSignalSpy counted(&links, &ShareLinkModel::countChanged);
+
+        model.setServerURL(u"https://book.example.org"_s);
+        QVERIFY(roleData(links, 0, ShareLinkModel::LinkRole).toString().startsWith(u"https://book.example.org/ilse/"_s));
+        QCOMPARE(counted.size(), 0);
+
+        for (EventType &type : app.transport().data.settings->eventTypes)
+            type.isActive = false;
+        refresh(model);
+        QCOMPARE(links.count(), 0);
+        QCOMPARE(counted.size(), 1);
+    }
+
+    void frame_data()
+    {
+        QTest::addColumn<FixtureApp::State>("state");
+        QTest::addColumn<QString>("subtitle");
+        QTest::addColumn<QString>("initials");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<bool>("hero");
+        QTest::newRow("signed in") << FixtureApp::State::withData << QString() << u"IV"_s << u"Ilse Varga"_s
+                                   << u"Live on Google Calendar"_s << false;
+        QTest::newRow("offline") << FixtureApp::State::offline << u"Offline"_s << u"IV"_s << u"Ilse Varga"_s
+                                 << u"Offline"_s << false;
+        QTest::newRow("signed out") << FixtureApp::State::signedOut << QString() << u"?"_s << u"Not signed in"_s
+                                    << u"Calendar not connected"_s << true;
+    }
+    void frame()
+    {
+        QFETCH(FixtureApp::State, state);
+        QFETCH(QString, subtitle);
+        QFETCH(QString, initials);
+        QFETCH(QString, name);
+        QFETCH(QString, status);
+        QFETCH(bool, hero);
+        FixtureApp app(state);
+        MainWindowModel frame;
+        frame.setApp(&app.model());
+        QCOMPARE(frame.title(), u"Today"_s);
+        QCOMPARE(frame.symbol(), u"sun.max"_s);
+        QCOMPARE(frame.subtitle(), subtitle);
+        QCOMPARE(frame.initials(), initials);
+        QCOMPARE(frame.accountName(), name);
+        QCOMPARE(frame.statusText(), status);
+        QCOMPARE(frame.showsSignInHero(), hero);
+    }
+
+    // The frame follows the model: a refresh stamps the time, a new section renames the window.
+    void frameFollowsTheModel()
+    {
+        FixtureApp app;
+        AppModel &model = app.model();
+        MainWindowModel frame;
+        frame.setApp(&model);
+        QSignalSpy changed(&frame, &MainWindowModel::changed);
+        refresh(model);
+        QCOMPARE(frame.subtitle(), u"Updated 9:40\u202FAM"_s);
+        model.setSection(AppSection::availability);
+        QCOMPARE(frame.title(), u"Availability"_s);
+        QCOMPARE(frame.symbol(), u"clock"_s);
+        QVERIFY(changed.size() >= 2);
+
+        app.transport().data.google->connected = false;
+        app.transport().data.account->google->connected = false;
+        refresh(model);
+        QCOMPARE(frame.statusText(), u"Calendar not connected"_s);
+        QCOMPARE(frame.statusColor(), Tints::color(Tint::orange));
+    }
+
+    // A lost token with a cached account keeps the data on screen.
+    void cachedAccountWithoutToken()
+    {
+        FixtureApp app;
+        AppModel &model = app.model();
+        MainWindowModel frame;
+        frame.setApp(&model);
+        Keychain(app.secrets).signOut();
+        QSignalSpy changed(&frame, &MainWindowModel::changed);
+        refresh(model);
+        QVERIFY(model.needsSignIn());
+        QVERIFY(!changed.isEmpty());
+        QVERIFY(!frame.showsSignInHero());
+        QCOMPARE(frame.accountName(), u"Ilse Varga"_s);
+
+        model.signOut();
+        QVERIFY(frame.showsSignInHero());
+        QCOMPARE(frame.accountName(), u"Not signed in"_s);
+    }
+
+    void accountWithoutAName()
+    {
+        FixtureApp app;
+        AppModel &model = app.model();
+        MainWindowModel frame;
+        frame.setApp(&model);
+        app.transport().data.account->name.reset();
+        refresh(model);
+        QCOMPARE(frame.initials(), u"?"_s);
+        QCOMPARE(frame.accountName(), u"Not signed in"_s);
+    }
+};
+
+QTEST_MAIN(TestFrameModels)
+#include "tst_frame_models.moc"

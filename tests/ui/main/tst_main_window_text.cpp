@@ -1,0 +1,109 @@
+// The main window's frame texts: subtitle, the footer's initials, name and status line.
+#include "MainWindowText.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+
+Q_DECLARE_METATYPE(std::optional<QString>)
+Q_DECLARE_METATYPE(std::optional<quorvane::Instant>)
+
+class TestMainWindowText : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void subtitle_data()
+    {
+        QTest::addColumn<bool>("offline");
+        QTest::addColumn<bool>("saving");
+        QTest::addColumn<std::optional<Instant>>("lastRefresh");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<QString>("expected");
+        const std::optional<Instant> at = QDateTime(QDate(2026, 3, 10), QTime(13, 40), Qt::UTC);
+        const std::optional<Instant> never;
+        const QString us = u"en_US"_s, ny = u"America/New_York"_s;
+        QTest::newRow("offline wins over saving") << true << true << at << us << ny << u"Offline"_s;
+        QTest::newRow("offline without a refresh") << true << false << never << us << ny << u"Offline"_s;
+        QTest::newRow("saving wins over the time") << false << true << at << us << ny << u"Saving…"_s;
+        QTest::newRow("updated, in the user's zone and 12-hour clock")
+            << false << false << at << us << ny << u"Updated 9:40\u202FAM"_s;
+        QTest::newRow("updated, 24-hour locale and another zone")
+            << false << false << at << u"de_DE"_s << u"Europe/Berlin"_s << u"Updated 14:40"_s;
+        QTest::newRow("nothing yet") << false << false << never << us << ny << QString();
+    }
+    void subtitle()
+    {
+        QFETCH(bool, offline);
+        QFETCH(bool, saving);
+        QFETCH(std::optional<Instant>, lastRefresh);
+        QFETCH(QString, locale);
+        QFETCH(QString, zone);
+        QFETCH(QString, expected);
+        QCOMPARE(MainWindowText::subtitle(offline, saving, lastRefresh, locale, zone), expected);
+    }
+
+    void initials_data()
+    {
+        QTest::addColumn<std::optional<QString>>("name");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("two words") << std::optional<QString>(u"Ilse Varga"_s) << u"IV"_s;
+        QTest::newRow("one word") << std::optional<QString>(u"Ilse"_s) << u"I"_s;
+        QTest::newRow("three words give two") << std::optional<QString>(u"Anna Maria Lopez"_s) << u"AM"_s;
+        QTest::newRow("no name") << std::optional<QString>() << u"?"_s;
+        QTest::newRow("case as typed, extra blanks dropped")
+            << std::optional<QString>(u"  ilse   van Varga "_s) << u"iv"_s;
+        QTest::newRow("blanks only") << std::optional<QString>(u"   "_s) << QString();
+        QTest::newRow("empty name") << std::optional<QString>(QString()) << QString();
+        QTest::newRow("accent written with a combining mark is one character")
+            << std::optional<QString>(u"E\u0301mile Zola"_s) << u"\u00C9Z"_s;
+        QTest::newRow("an emoji is one character")
+            << std::optional<QString>(u"\U0001F469\u200D\U0001F4BB Dev"_s) << u"\U0001F469\u200D\U0001F4BBD"_s;
+    }
+    void initials()
+    {
+        QFETCH(std::optional<QString>, name);
+        QFETCH(QString, expected);
+        QCOMPARE(MainWindowText::initials(name), expected);
+    }
+
+    void accountName_data()
+    {
+        QTest::addColumn<std::optional<QString>>("name");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("named") << std::optional<QString>(u"Ilse Varga"_s) << u"Ilse Varga"_s;
+        QTest::newRow("no name") << std::optional<QString>() << u"Not signed in"_s;
+    }
+    void accountName()
+    {
+        QFETCH(std::optional<QString>, name);
+        QFETCH(QString, expected);
+        QCOMPARE(MainWindowText::accountName(name), expected);
+    }
+
+    void footerStatus_data()
+    {
+        QTest::addColumn<bool>("offline");
+        QTest::addColumn<bool>("google");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("dot");
+        QTest::newRow("offline, even when connected") << true << true << u"Offline"_s << int(Tint::secondary);
+        QTest::newRow("connected") << false << true << u"Live on Google Calendar"_s << int(Tint::green);
+        QTest::newRow("not connected") << false << false << u"Calendar not connected"_s << int(Tint::orange);
+    }
+    void footerStatus()
+    {
+        QFETCH(bool, offline);
+        QFETCH(bool, google);
+        QFETCH(QString, text);
+        QFETCH(int, dot);
+        const FooterStatus status = MainWindowText::footerStatus(offline, google);
+        QCOMPARE(status.text, text);
+        QCOMPARE(int(status.dot), dot);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMainWindowText)
+#include "tst_main_window_text.moc"
