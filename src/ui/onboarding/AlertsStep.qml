@@ -17,14 +17,14 @@ OnboardingStep {
         font.pixelSize: Typography.title
         font.bold: true
     }
-    Switch {
+    WrappingSwitch {
         objectName: "notifSwitch"
         Layout.fillWidth: true
         text: "Notify me about new bookings, cancellations and upcoming meetings"
         checked: root.guide.notif
         onToggled: root.guide.notif = checked
     }
-    Switch {
+    WrappingSwitch {
         objectName: "loginSwitch"
         Layout.fillWidth: true
         text: "Open Quorvane at login (lives in the tray)"

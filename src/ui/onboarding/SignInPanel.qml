@@ -40,6 +40,10 @@ ColumnLayout {
             Layout.preferredHeight: 38
             text: "Sign in with your Quorvane account"
             icon.source: "image://icon/person.badge.key"
+            icon.color: "white"
+            // The one prominent control on the panel: filled in the accent colour.
+            palette.button: SystemColors.accent
+            palette.buttonText: "white"
             highlighted: true
             enabled: root.phase !== SignInPhase.Starting
             onClicked: Setup.begin(root.auth)
@@ -83,11 +87,15 @@ ColumnLayout {
             spacing: 8
             Button {
                 objectName: "openAgainButton"
+                leftPadding: 12
+                rightPadding: 12
                 text: "Open Browser Again"
                 onClicked: Setup.openAgain(root.auth)
             }
             Button {
                 objectName: "cancelButton"
+                leftPadding: 12
+                rightPadding: 12
                 text: "Cancel"
                 onClicked: root.auth.cancel()
             }

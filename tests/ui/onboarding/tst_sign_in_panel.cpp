@@ -1,0 +1,161 @@
+// The sign-in panel driven like a user would, against the sandbox on loopback and the test
+// session's keyring: the button, the code to confirm, cancelling, trying again, approval.
+#include "DeviceSignIn.h"
+#include "ModelRig.h"
+#include "SetupServices.h"
+#include "ViewRig.h"
+#include "linux/AutostartLoginItem.h"
+
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace quorvane;
+using namespace quorvane::test;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QByteArray panelWindow = R"(
+import QtQuick
+import Quorvane.Onboarding
+Window {
+    width: 420; height: 220; visible: true
+    SignInPanel { x: 20; y: 20; width: 380 }
+})";
+
+// The model of the rig, signed out, with the services the panel gets its sign-in from.
+struct Rig {
+    bool start(QString *why)
+    {
+        if (!models.ready(why))
+            return false;
+        models.keychain.write({});
+        model = models.makeModel();
+        AppEnvironment env;
+        env.clock = &models.clock;
+        env.transport = models.transport;
+        env.secrets = &models.secrets;
+        env.notifier = models.notifier.get();
+        env.preferences = models.preferences.get();
+        env.opener = &models.opener;
+        setup = std::make_unique<SetupServices>(*model, env, loginItem, DeviceSignIn::Timings{20ms, 600s});
+        view = std::make_unique<ViewRig>(panelWindow, *setup);
+        return view->ready(why);
+    }
+    [[nodiscard]] QQuickItem *item(const QString &name) const { return view->item(name); }
+    [[nodiscard]] bool shows(const QString &name) const { return ViewRig::shown(item(name)); }
+    void click(const QString &name) const { view->click(item(name)); }
+    [[nodiscard]] QString code() const { return item(u"code"_s)->property("text").toString(); }
+    // Waiting with a code on screen.
+    [[nodiscard]] bool waiting() const { return shows(u"waitingPart"_s) && !code().isEmpty(); }
+
+    ModelRig models;
+    QTemporaryDir folder;
+    AutostartLoginItem loginItem{folder.filePath(u"config"_s), u"/usr/bin/quorvane"_s};
+    std::unique_ptr<AppModel> model;
+    std::unique_ptr<SetupServices> setup;
+    std::unique_ptr<ViewRig> view;
+};
+
+} // namespace
+
+class SignInPanelTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void showsTheCodeAndCancels();
+    void tryAgainAsksForANewCode();
+    void approvalSignsTheModelIn();
+};
+
+void SignInPanelTest::initTestCase()
+{
+    ViewRig::prepareProcess();
+}
+
+void SignInPanelTest::showsTheCodeAndCancels()
+{
+    Rig rig;
+    QString why;
+    QVERIFY2(rig.start(&why), qPrintable(why));
+    QVERIFY(rig.shows(u"signInButton"_s));
+    QVERIFY(rig.item(u"signInButton"_s)->isEnabled());
+    QVERIFY(!rig.shows(u"waitingPart"_s) && !rig.shows(u"failedPart"_s) && !rig.shows(u"donePart"_s));
+
+    rig.click(u"signInButton"_s);
+    QTRY_VERIFY(rig.waiting());
+    QVERIFY(!rig.shows(u"signInButton"_s));
+    const QString code = rig.code();
+    QVERIFY(rig.models.server.sandbox().devices().waiting(code).has_value());
+    // A screen reader spells the code out.
+    QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(rig.item(u"code"_s));
+    QVERIFY(reader);
+    QCOMPARE(reader->text(QAccessible::Name), SetupServices::spokenCode(code));
+    // The browser was sent to the page, and can be sent again.
+    QCOMPARE(rig.models.opened.size(), 1);
+    QVERIFY(rig.models.opened.constFirst().toString().contains(code));
+    rig.click(u"openAgainButton"_s);
+    QCOMPARE(rig.models.opened.size(), 2);
+    QCOMPARE(rig.models.opened.at(1), rig.models.opened.at(0));
+
+    rig.click(u"cancelButton"_s);
+    QTRY_VERIFY(rig.shows(u"signInButton"_s));
+    QVERIFY(rig.item(u"signInButton"_s)->isEnabled());
+    QVERIFY(!rig.shows(u"waitingPart"_s));
+    // Approving the old code now changes nothing: the panel stopped asking.
+    QVERIFY(rig.models.server.sandbox().devices().approve(code));
+    QTest::qWait(150);
+    QVERIFY(rig.shows(u"signInButton"_s));
+    QVERIFY(!rig.models.keychain.token());
+    QVERIFY(rig.model->needsSignIn());
+}
+
+void SignInPanelTest::tryAgainAsksForANewCode()
+{
+    Rig rig;
+    QString why;
+    QVERIFY2(rig.start(&why), qPrintable(why));
+    rig.models.server.sandbox().faults().plant(u"auth/device/poll"_s,
+                                               {.status = 400, .body = R"({"error":"expired_token"})", .count = 1});
+    rig.click(u"signInButton"_s);
+    QTRY_VERIFY(rig.shows(u"failedPart"_s));
+    QCOMPARE(rig.item(u"failureMessage"_s)->property("text").toString(), u"That code expired. Try again."_s);
+    QVERIFY(!rig.shows(u"signInButton"_s));
+    QCOMPARE(rig.models.transport->count("POST", u"auth/device/start"_s), 1);
+
+    rig.click(u"tryAgainButton"_s);
+    QTRY_VERIFY(rig.waiting());
+    QCOMPARE(rig.models.transport->count("POST", u"auth/device/start"_s), 2);
+    QCOMPARE(rig.models.opened.size(), 2);
+    QVERIFY(rig.models.opened.at(1) != rig.models.opened.at(0));
+    QVERIFY(rig.models.opened.at(1).toString().contains(rig.code()));
+}
+
+void SignInPanelTest::approvalSignsTheModelIn()
+{
+    Rig rig;
+    QString why;
+    QVERIFY2(rig.start(&why), qPrintable(why));
+    QVERIFY(rig.model->needsSignIn());
+    QCOMPARE(rig.setup->signedInLabel(), QString());
+    QSignalSpy label(rig.setup.get(), &SetupServices::signedInLabelChanged);
+
+    rig.click(u"signInButton"_s);
+    QTRY_VERIFY(rig.waiting());
+    QVERIFY(rig.models.server.sandbox().devices().approve(rig.code()));
+    QTRY_VERIFY(rig.shows(u"donePart"_s));
+    QVERIFY(!rig.shows(u"waitingPart"_s));
+
+    // The model took over: signed in, and its first refresh brought the account.
+    QVERIFY(!rig.model->needsSignIn());
+    QVERIFY(rig.models.keychain.token().has_value());
+    QTRY_VERIFY(rig.model->account().has_value());
+    QVERIFY(label.count() > 0);
+    QCOMPARE(rig.setup->signedInLabel(), u"Signed in as "_s + rig.model->account()->email);
+}
+
+QTEST_MAIN(SignInPanelTest)
+#include "tst_sign_in_panel.moc"
