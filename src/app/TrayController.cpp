@@ -1,0 +1,70 @@
+#include "TrayController.h"
+
+#include "PopoverPlacement.h"
+#include "TrayIcon.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane {
+
+TrayController::TrayController(QQmlEngine &engine, AppModel &model, QObject *parent)
+    : QObject(parent)
+    , m_engine(engine)
+    , m_icon(new TrayIcon(model, this))
+{
+    connect(m_icon, &TrayIcon::clicked, this, &TrayController::togglePopover);
+}
+
+TrayController::~TrayController()
+{
+    delete m_popover;
+}
+
+QQuickWindow *TrayController::ensurePopover()
+{
+    if (m_popover)
+        return m_popover;
+    QQmlComponent component(&m_engine, QUrl(u"qrc:/qt/qml/Quorvane/MenuBar/MenuBarPopover.qml"_s));
+    QObject *made = component.create();
+    m_popover = qobject_cast<QQuickWindow *>(made);
+    if (!m_popover) {
+        delete made;
+        return nullptr;
+    }
+    QQmlEngine::setObjectOwnership(m_popover, QQmlEngine::CppOwnership);
+    return m_popover;
+}
+
+void TrayController::togglePopover(const QRect &iconGeometry)
+{
+    if (m_popover && m_popover->isVisible())
+        m_popover->hide();
+    else
+        openPopover(iconGeometry);
+}
+
+void TrayController::openPopover(const QRect &iconGeometry)
+{
+    QQuickWindow *window = ensurePopover();
+    if (!window)
+        return;
+    const QPoint cursor = QCursor::pos();
+    const QPoint anchor = iconGeometry.isEmpty() ? cursor : iconGeometry.center();
+    QScreen *screen = QGuiApplication::screenAt(anchor);
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    window->setScreen(screen);
+    window->setPosition(PopoverPlacement::topLeft(iconGeometry, cursor, window->size(), screen->availableGeometry()));
+    window->show();
+    window->raise();
+    window->requestActivate();
+}
+
+} // namespace quorvane

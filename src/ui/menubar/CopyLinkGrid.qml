@@ -1,0 +1,69 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+// One button per active event type, two to a row: a click copies the type's public link.
+GridLayout {
+    id: root
+
+    columns: 2
+    columnSpacing: 6
+    rowSpacing: 6
+
+    LinkTypesModel {
+        id: links
+        app: App
+    }
+
+    Repeater {
+        model: links
+        delegate: ItemDelegate {
+            id: link
+            objectName: "copyLink"
+            required property int index
+            required property string title
+            required property string minutes
+            required property color typeColor
+            required property string accessibleName
+
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            implicitHeight: 28
+            leftPadding: 8
+            rightPadding: 8
+            topPadding: 0
+            bottomPadding: 0
+            focusPolicy: Qt.NoFocus
+            onClicked: links.copy(index)
+            Accessible.role: Accessible.Button
+            Accessible.name: accessibleName
+
+            background: Rectangle {
+                radius: 6
+                color: link.down ? Qt.rgba(0, 0, 0, 0.09) : link.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent"
+            }
+            contentItem: RowLayout {
+                spacing: 6
+                TypeDot {
+                    color: link.typeColor
+                    size: 8
+                }
+                Label {
+                    Layout.fillWidth: true
+                    text: link.title
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    font.pixelSize: Typography.callout
+                }
+                Label {
+                    text: link.minutes
+                    font.pixelSize: Typography.caption
+                    color: SystemColors.secondary
+                }
+            }
+        }
+    }
+}

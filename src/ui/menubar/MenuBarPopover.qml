@@ -1,0 +1,150 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+import Quorvane.Today
+
+// The tray's popover: the next meeting, the rest of today, one-click links, and the way to
+// everything else. It closes as soon as it loses focus, like a menu.
+Window {
+    id: popover
+
+    width: 340
+    height: content.implicitHeight + 2 * content.anchors.margins
+    flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
+    title: "Quorvane"
+    color: palette.window
+
+    onActiveChanged: {
+        if (!active)
+            hide()
+    }
+
+    // Every way to a window goes through here: the popover makes way for it.
+    function open(windowId: string) {
+        popover.hide()
+        Shell.open(windowId)
+    }
+
+    MenuBarViewModel {
+        id: bar
+        app: App
+    }
+    TimelineModel {
+        id: timeline
+        app: App
+    }
+
+    Shortcut {
+        sequence: "Escape"
+        onActivated: popover.hide()
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: "transparent"
+        border.width: 1
+        border.color: Qt.darker(palette.window, 1.25)
+    }
+
+    ColumnLayout {
+        id: content
+        anchors.fill: parent
+        anchors.margins: 14
+        spacing: 12
+
+        PopoverHeader {
+            Layout.fillWidth: true
+            date: bar.dateText
+        }
+
+        Loader {
+            objectName: "signInSlot"
+            Layout.fillWidth: true
+            active: bar.showsSignIn
+            visible: active
+            source: "qrc:/qt/qml/Quorvane/Onboarding/SignInPanel.qml"
+        }
+
+        ColumnLayout {
+            objectName: "signedInContent"
+            Layout.fillWidth: true
+            visible: !bar.showsSignIn
+            spacing: 12
+
+            BannerView {
+                objectName: "popoverBanner"
+                Layout.fillWidth: true
+                visible: bar.showsBanner
+                message: App.bannerMessage
+                kind: App.bannerKind
+                showRetry: App.bannerRetry
+                onRetry: App.refreshNow()
+                onDismiss: App.dismissBanner()
+            }
+
+            NextMeetingCard {
+                objectName: "popoverCard"
+                Layout.fillWidth: true
+                compact: true
+            }
+
+            SectionHeading { text: qsTr("Today") }
+            TimelineList {
+                objectName: "popoverTimeline"
+                Layout.fillWidth: true
+                Layout.topMargin: -6
+                visible: timeline.count > 0
+                timeline: timeline
+            }
+            Label {
+                objectName: "noMeetingsToday"
+                Layout.topMargin: -6
+                visible: timeline.count === 0
+                text: qsTr("No meetings today 🎉")
+                font.pixelSize: Typography.callout
+            }
+
+            Divider { Layout.fillWidth: true }
+
+            SectionHeading {
+                objectName: "copyHeading"
+                text: qsTr("Copy a link")
+            }
+            CopyLinkGrid {
+                Layout.fillWidth: true
+                Layout.topMargin: -6
+            }
+
+            Button {
+                objectName: "shareTimes"
+                Layout.fillWidth: true
+                text: qsTr("Share times…")
+                icon.source: "image://icon/paperplane.fill?color=" + palette.buttonText.toString().substring(1)
+                icon.color: "transparent"
+                onClicked: popover.open("share")
+            }
+
+            Label {
+                objectName: "toast"
+                Layout.fillWidth: true
+                visible: bar.showsToast
+                text: App.bannerMessage
+                textFormat: Text.PlainText
+                wrapMode: Text.WordWrap
+                font.pixelSize: Typography.caption
+                color: SystemColors.green
+            }
+        }
+
+        Divider { Layout.fillWidth: true }
+
+        PopoverFooter {
+            Layout.fillWidth: true
+            onOpenMain: popover.open("main")
+            onOpenSettings: popover.open("settings")
+        }
+    }
+}

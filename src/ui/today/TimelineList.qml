@@ -1,0 +1,20 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Quorvane.App
+
+// The day's bookings, one row each, in the model's order.
+Column {
+    id: root
+
+    required property TimelineModel timeline
+
+    spacing: 8
+
+    Repeater {
+        model: root.timeline
+        delegate: TimelineRow {
+            width: root.width
+            onJoin: row => root.timeline.join(row)
+        }
+    }
+}

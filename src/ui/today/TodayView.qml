@@ -1,0 +1,116 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Quorvane.App
+import Quorvane.Components
+
+// The first screen: the next meeting, three counters and the day's timeline.
+ScrollView {
+    id: root
+
+    contentWidth: availableWidth
+
+    TodayViewModel {
+        id: today
+        app: App
+    }
+    TimelineModel {
+        id: timeline
+        app: App
+    }
+
+    Item {
+        width: root.availableWidth
+        implicitHeight: (App.firstLoadDone ? stack.implicitHeight : skeleton.implicitHeight) + 40
+
+        SkeletonList {
+            id: skeleton
+            objectName: "todaySkeleton"
+            visible: !App.firstLoadDone
+            x: stack.x
+            y: 20
+            width: stack.width
+            rows: 4
+        }
+
+        ColumnLayout {
+            id: stack
+            visible: App.firstLoadDone
+            width: Math.min(900, parent.width - 40)
+            x: (parent.width - width) / 2
+            y: 20
+            spacing: 20
+
+            NextMeetingCard {
+                objectName: "nextMeetingCard"
+                Layout.fillWidth: true
+                joinShortcutEnabled: false // the Go menu's "Join Next Meeting"
+            }
+
+            RowLayout {
+                Layout.fillWidth: true
+                spacing: 12
+                StatTile {
+                    objectName: "todayTile"
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    title: qsTr("Today")
+                    value: today.todayCount
+                    symbol: "sun.max"
+                    tint: SystemColors.orange
+                }
+                StatTile {
+                    objectName: "weekTile"
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    title: qsTr("This week")
+                    value: today.weekCount
+                    symbol: "calendar"
+                    tint: SystemColors.blue
+                }
+                StatTile {
+                    objectName: "pollsTile"
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    title: qsTr("Open polls")
+                    value: today.openPollsCount
+                    symbol: "chart.bar.doc.horizontal"
+                    tint: SystemColors.purple
+                }
+            }
+
+            ColumnLayout {
+                Layout.fillWidth: true
+                spacing: 10
+                Label {
+                    text: qsTr("Today's timeline")
+                    font.pixelSize: Typography.headline
+                    font.bold: true
+                }
+                TimelineList {
+                    objectName: "timeline"
+                    Layout.fillWidth: true
+                    visible: timeline.count > 0
+                    timeline: timeline
+                }
+                EmptyPanel {
+                    objectName: "emptyDay"
+                    Layout.fillWidth: true
+                    Layout.preferredHeight: 170
+                    visible: timeline.count === 0
+                    title: qsTr("Nothing booked today")
+                    symbol: "cup.and.saucer"
+                    description: qsTr("Enjoy the focus time. Share a link to get booked.")
+                }
+            }
+
+            ConnectCalendarCard {
+                objectName: "connectCard"
+                Layout.fillWidth: true
+                visible: today.showsConnectCard
+                onConnect: today.connectGoogle()
+            }
+        }
+    }
+}

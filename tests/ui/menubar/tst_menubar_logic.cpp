@@ -1,0 +1,157 @@
+#include "PopoverContent.h"
+#include "PopoverPlacement.h"
+#include "TrayIcon.h"
+#include "TrayText.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QTest>
+
+using namespace quorvane;
+using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(std::optional<Banner>)
+Q_DECLARE_METATYPE(PopoverContent)
+
+namespace {
+const Instant now(QDate(2026, 3, 10), QTime(13, 40), Qt::UTC);
+} // namespace
+
+class TestMenuBarLogic : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void content_data()
+    {
+        QTest::addColumn<bool>("needsSignIn");
+        QTest::addColumn<bool>("hasAccount");
+        QTest::addColumn<std::optional<Banner>>("banner");
+        QTest::addColumn<PopoverContent>("expected");
+        const Banner error{u"Signed out"_s, Banner::Kind::error, false};
+        const Banner offline{u"Offline"_s, Banner::Kind::offline, true};
+        const Banner toast{u"Copied link for Intro"_s, Banner::Kind::info, false};
+        QTest::newRow("signed in") << false << true << std::optional<Banner>() << PopoverContent{};
+        QTest::newRow("signed out, nothing cached") << true << false << std::optional<Banner>()
+                                                    << PopoverContent{.signIn = true};
+        QTest::newRow("signed out, nothing cached, a banner stays away")
+            << true << false << std::optional<Banner>(error) << PopoverContent{.signIn = true};
+        QTest::newRow("token revoked, account still cached")
+            << true << true << std::optional<Banner>(error) << PopoverContent{.banner = true};
+        QTest::newRow("offline") << false << true << std::optional<Banner>(offline) << PopoverContent{.banner = true};
+        QTest::newRow("a toast is a line, not a banner")
+            << false << true << std::optional<Banner>(toast) << PopoverContent{.toast = true};
+        QTest::newRow("signed in before the first load")
+            << false << false << std::optional<Banner>() << PopoverContent{};
+    }
+    void content()
+    {
+        QFETCH(bool, needsSignIn);
+        QFETCH(bool, hasAccount);
+        QFETCH(std::optional<Banner>, banner);
+        QFETCH(PopoverContent, expected);
+        const PopoverContent got = PopoverContent::select(needsSignIn, hasAccount, banner);
+        QCOMPARE(got.signIn, expected.signIn);
+        QCOMPARE(got.banner, expected.banner);
+        QCOMPARE(got.toast, expected.toast);
+    }
+
+    void trayText_data()
+    {
+        QTest::addColumn<bool>("showsNext");
+        QTest::addColumn<int>("startIn");
+        QTest::addColumn<int>("endIn");
+        QTest::addColumn<QString>("toolTip");
+        QTest::addColumn<QString>("iconText");
+        QTest::newRow("running") << true << -300 << 1500 << u"Now: Ann"_s << u"now"_s;
+        QTest::newRow("starts this second") << true << 0 << 1800 << u"Now: Ann"_s << u"now"_s;
+        QTest::newRow("a second away") << true << 1 << 1800 << u"Ann in 1m"_s << u"1m"_s;
+        QTest::newRow("59 minutes") << true << 3540 << 5000 << u"Ann in 59m"_s << u"59m"_s;
+        QTest::newRow("just over 59 minutes rounds up") << true << 3541 << 5000 << u"Ann in 1h"_s << u"1h"_s;
+        QTest::newRow("an hour and a half") << true << 5400 << 7200 << u"Ann in 1h 30m"_s << u"1h"_s;
+        QTest::newRow("exactly at the horizon") << true << 28800 << 30600 << u"Ann in 8h"_s << u"8h"_s;
+        QTest::newRow("past the horizon") << true << 28801 << 30600 << u"Quorvane"_s << QString();
+        QTest::newRow("ended") << true << -1800 << -1 << u"Quorvane"_s << QString();
+        QTest::newRow("turned off, a minute away") << false << 60 << 1800 << u"Quorvane"_s << QString();
+        QTest::newRow("turned off, running") << false << -60 << 1800 << u"Quorvane"_s << QString();
+    }
+    void trayText()
+    {
+        QFETCH(bool, showsNext);
+        QFETCH(int, startIn);
+        QFETCH(int, endIn);
+        QFETCH(QString, toolTip);
+        QFETCH(QString, iconText);
+        Booking next;
+        next.name = u"Ann Lee"_s;
+        next.start = now.addSecs(startIn);
+        next.end = now.addSecs(endIn);
+        QCOMPARE(TrayText::toolTip(TrayText::title(next, now, showsNext)), toolTip);
+        QCOMPARE(TrayText::iconText(next, now, showsNext), iconText);
+    }
+
+    void nothingNext()
+    {
+        QCOMPARE(TrayText::toolTip(TrayText::title(std::nullopt, now, true)), u"Quorvane"_s);
+        QCOMPARE(TrayText::iconText(std::nullopt, now, true), QString());
+    }
+
+    // The icon is drawn, not loaded: each short countdown must be legible at the tray's sizes,
+    // and the same picture at every size where it doesn't fit would be a plain calendar.
+    void iconText_fits_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char *text : {"now", "59m", "8h", "1m"})
+            QTest::newRow(text) << QString::fromLatin1(text);
+    }
+    void iconText_fits()
+    {
+        QFETCH(QString, text);
+        const QIcon withText = TrayIcon::render(text);
+        const QIcon plain = TrayIcon::render(QString());
+        for (int size : {22, 32, 48}) {
+            const QImage a = withText.pixmap(size, size).toImage();
+            const QImage b = plain.pixmap(size, size).toImage();
+            QCOMPARE(a.size(), QSize(size, size));
+            QVERIFY2(a != b, qPrintable(u"no countdown drawn at %1 px"_s.arg(size)));
+        }
+    }
+
+    void placement_data()
+    {
+        QTest::addColumn<QRect>("icon");
+        QTest::addColumn<QPoint>("cursor");
+        QTest::addColumn<QSize>("popover");
+        QTest::addColumn<QRect>("screen");
+        QTest::addColumn<QPoint>("expected");
+        const QRect screen(0, 0, 1920, 1080);
+        const QSize popover(340, 500);
+        QTest::newRow("top panel, middle: centred below")
+            << QRect(900, 0, 24, 24) << QPoint() << popover << screen << QPoint(912 - 170, 24 + 6);
+        QTest::newRow("top panel, right corner: kept on screen")
+            << QRect(1890, 0, 24, 24) << QPoint() << popover << screen << QPoint(1920 - 340, 30);
+        QTest::newRow("bottom panel, left corner: above, kept on screen")
+            << QRect(4, 1050, 24, 30) << QPoint() << popover << screen << QPoint(0, 1050 - 6 - 500);
+        QTest::newRow("second screen to the right")
+            << QRect(3800, 0, 24, 24) << QPoint() << popover << QRect(1920, 0, 1920, 1080)
+            << QPoint(3840 - 340, 30);
+        QTest::newRow("no geometry: by the pointer")
+            << QRect() << QPoint(600, 12) << popover << screen << QPoint(600 - 170, 12 + 6);
+        QTest::newRow("no geometry, pointer low: above it")
+            << QRect() << QPoint(600, 1070) << popover << screen << QPoint(430, 1070 - 6 - 500);
+        QTest::newRow("taller than the screen: top stays on it")
+            << QRect(900, 0, 24, 24) << QPoint() << QSize(340, 1200) << screen << QPoint(742, 0);
+    }
+    void placement()
+    {
+        QFETCH(QRect, icon);
+        QFETCH(QPoint, cursor);
+        QFETCH(QSize, popover);
+        QFETCH(QRect, screen);
+        QFETCH(QPoint, expected);
+        QCOMPARE(PopoverPlacement::topLeft(icon, cursor, popover, screen), expected);
+    }
+};
+
+QTEST_MAIN(TestMenuBarLogic)
+#include "tst_menubar_logic.moc"
