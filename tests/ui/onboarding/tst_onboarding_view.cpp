@@ -24,19 +24,11 @@ Window {
     OnboardingView { anchors.fill: parent }
 })";
 
-const QByteArray aboutWindow = R"(
-import QtQuick
-import Quorvane.Onboarding
-Window {
-    width: 416; height: 520; visible: true
-    AboutView { anchors.fill: parent }
-})";
-
-// A fixture app, the services the views get from it, and an autostart folder of the test's own.
+// The guide's window on a fixture app, with a real login item in a folder of the test's own.
 struct Rig {
-    explicit Rig(FixtureApp::State state = FixtureApp::State::withData)
-        : app(FixtureApp::Options{.state = state, .onboarded = false}),
-          loginItem(folder.filePath(u"config"_s), u"/usr/bin/quorvane"_s), setup(app.model(), environment(), loginItem)
+    explicit Rig(FixtureApp::State state = FixtureApp::State::withData, const QByteArray &qml = guideWindow)
+        : app(FixtureApp::Options{.state = state, .onboarded = false}), setup(app.model(), environment(), loginItem),
+          view(qml, setup)
     {
     }
     AppEnvironment environment()
@@ -50,12 +42,27 @@ struct Rig {
         env.opener = &app.opener;
         return env;
     }
-    [[nodiscard]] QString text(QQuickItem *item) const { return item ? item->property("text").toString() : QString(); }
+    [[nodiscard]] QString text(const QString &name) const { return view.item(name)->property("text").toString(); }
+    [[nodiscard]] bool shows(const QString &name) const { return ViewRig::shown(view.item(name)); }
+    void click(const QString &name, int times = 1) const
+    {
+        for (int i = 0; i < times; ++i)
+            view.click(view.item(name));
+    }
+    // The autostart folder can't be made: a file stands where it should be.
+    [[nodiscard]] bool blockAutostart(bool blocked)
+    {
+        QFile file(folder.filePath(u"config/autostart"_s));
+        if (!blocked)
+            return file.remove();
+        return QDir().mkpath(folder.filePath(u"config"_s)) && file.open(QIODevice::WriteOnly) && file.write("x") == 1;
+    }
 
     QTemporaryDir folder;
     FixtureApp app;
-    AutostartLoginItem loginItem;
+    AutostartLoginItem loginItem{folder.filePath(u"config"_s), u"/usr/bin/quorvane"_s};
     SetupServices setup;
+    ViewRig view;
 };
 
 } // namespace
@@ -64,49 +71,35 @@ class OnboardingViewTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { ViewRig::prepareProcess(); }
     void stepsForwardAndBack();
     void endings_data();
     void endings();
     void signInStepFollowsTheAccount_data();
     void signInStepFollowsTheAccount();
-    void loginSwitchShowsWhatHappened_data();
     void loginSwitchShowsWhatHappened();
-    void about();
+    void aboutLinks();
 };
-
-void OnboardingViewTest::initTestCase()
-{
-    ViewRig::prepareProcess();
-}
 
 void OnboardingViewTest::stepsForwardAndBack()
 {
     Rig rig;
-    ViewRig view(guideWindow, rig.setup);
     QString why;
-    QVERIFY2(view.ready(&why), qPrintable(why));
-    QQuickItem *back = view.item(u"backButton"_s);
-    QQuickItem *primary = view.item(u"primaryButton"_s);
-    QVERIFY(back && primary);
+    QVERIFY2(rig.view.ready(&why), qPrintable(why));
+    QVERIFY(!rig.shows(u"backButton"_s));
+    QCOMPARE(rig.text(u"primaryButton"_s), u"Continue"_s);
+    // Nothing on the way is required: not signing in holds nobody up.
+    rig.click(u"primaryButton"_s, 3);
+    QTRY_COMPARE(rig.text(u"primaryButton"_s), u"Get Started"_s);
+    QVERIFY(rig.shows(u"backButton"_s));
+    rig.click(u"backButton"_s);
+    QTRY_COMPARE(rig.text(u"primaryButton"_s), u"Continue"_s);
 
-    QVERIFY(!ViewRig::shown(back));
-    QCOMPARE(rig.text(primary), u"Continue"_s);
-    // Nothing on the way is required: not signing in doesn't hold anyone up.
-    for (int step = 1; step <= 3; ++step) {
-        view.click(primary);
-        QTRY_VERIFY(ViewRig::shown(back));
-    }
-    QCOMPARE(rig.text(primary), u"Get Started"_s);
-    view.click(back);
-    QTRY_COMPARE(rig.text(primary), u"Continue"_s);
-
-    // Return is the default button.
-    view.window()->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(view.window()));
-    QTest::keyClick(view.window(), Qt::Key_Return);
-    QTRY_COMPARE(rig.text(primary), u"Get Started"_s);
-    QVERIFY(view.window()->isVisible());
+    // Return presses the default button.
+    rig.view.window()->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(rig.view.window()));
+    QTest::keyClick(rig.view.window(), Qt::Key_Return);
+    QTRY_COMPARE(rig.text(u"primaryButton"_s), u"Get Started"_s);
     QVERIFY(!rig.app.preferences().onboarded());
 }
 
@@ -124,122 +117,91 @@ void OnboardingViewTest::endings()
     QFETCH(bool, getStarted);
     QFETCH(int, step);
     Rig rig;
-    ViewRig view(guideWindow, rig.setup);
     QString why;
-    QVERIFY2(view.ready(&why), qPrintable(why));
-    QQuickItem *primary = view.item(u"primaryButton"_s);
-    for (int i = 0; i < step; ++i)
-        view.click(primary);
-    QTRY_COMPARE(rig.text(primary), step == 3 ? u"Get Started"_s : u"Continue"_s);
-
+    QVERIFY2(rig.view.ready(&why), qPrintable(why));
+    rig.click(u"primaryButton"_s, step);
+    QTRY_COMPARE(rig.text(u"primaryButton"_s), step == 3 ? u"Get Started"_s : u"Continue"_s);
     if (getStarted)
-        view.click(primary);
+        rig.click(u"primaryButton"_s);
     else
-        view.window()->close();
-    QTRY_VERIFY(!view.window()->isVisible());
+        rig.view.window()->close();
+    QTRY_VERIFY(!rig.view.window()->isVisible());
     QCOMPARE(rig.app.preferences().onboarded(), getStarted);
 
     // The shell keeps a closed window; shown again, the guide starts over.
-    view.window()->show();
-    QTRY_COMPARE(rig.text(primary), u"Continue"_s);
-    QVERIFY(!ViewRig::shown(view.item(u"backButton"_s)));
+    rig.view.window()->show();
+    QTRY_COMPARE(rig.text(u"primaryButton"_s), u"Continue"_s);
+    QVERIFY(!rig.shows(u"backButton"_s));
 }
 
 void OnboardingViewTest::signInStepFollowsTheAccount_data()
 {
     QTest::addColumn<FixtureApp::State>("state");
-    QTest::addColumn<bool>("signedIn");
-    QTest::newRow("account known") << FixtureApp::State::withData << true;
-    QTest::newRow("signed out") << FixtureApp::State::signedOut << false;
+    QTest::newRow("account known") << FixtureApp::State::withData;
+    QTest::newRow("signed out") << FixtureApp::State::signedOut;
 }
 
 void OnboardingViewTest::signInStepFollowsTheAccount()
 {
     QFETCH(FixtureApp::State, state);
-    QFETCH(bool, signedIn);
     Rig rig(state);
-    ViewRig view(guideWindow, rig.setup);
     QString why;
-    QVERIFY2(view.ready(&why), qPrintable(why));
-    QQuickItem *label = view.item(u"signedInLabel"_s);
-    QQuickItem *panel = view.item(u"signInPanel"_s);
-    QVERIFY(label && panel);
-    QVERIFY(!ViewRig::shown(label) && !ViewRig::shown(panel)); // not on the welcome step
+    QVERIFY2(rig.view.ready(&why), qPrintable(why));
+    QVERIFY(!rig.shows(u"signedInLabel"_s) && !rig.shows(u"signInPanel"_s)); // not on the welcome step
+    rig.click(u"primaryButton"_s);
+    QTRY_VERIFY(rig.shows(u"signedInLabel"_s) || rig.shows(u"signInButton"_s));
 
-    view.click(view.item(u"primaryButton"_s));
-    // One of the two shows once the step has faded in, never both.
-    QTRY_VERIFY(ViewRig::shown(label) || ViewRig::shown(panel));
-    QCOMPARE(ViewRig::shown(label), signedIn);
-    QCOMPARE(ViewRig::shown(panel), !signedIn);
-    if (signedIn) {
-        QVERIFY(rig.app.model().account().has_value());
-        QCOMPARE(rig.text(label), u"Signed in as "_s + rig.app.model().account()->email);
-    } else {
-        QVERIFY(ViewRig::shown(view.item(u"signInButton"_s)));
-    }
+    const std::optional<Account> account = rig.app.model().account();
+    QCOMPARE(rig.shows(u"signedInLabel"_s), account.has_value());
+    QCOMPARE(rig.shows(u"signInPanel"_s), !account);
+    if (account)
+        QCOMPARE(rig.text(u"signedInLabel"_s), u"Signed in as "_s + account->email);
 }
 
-void OnboardingViewTest::loginSwitchShowsWhatHappened_data()
-{
-    QTest::addColumn<bool>("blocked"); // a file where the autostart folder should be
-    QTest::newRow("entry written") << false;
-    QTest::newRow("entry refused") << true;
-}
-
+// The switch the user flipped shows what the system did, also after a refusal.
 void OnboardingViewTest::loginSwitchShowsWhatHappened()
 {
-    QFETCH(bool, blocked);
     Rig rig;
-    if (blocked) {
-        QVERIFY(QDir().mkpath(rig.folder.filePath(u"config"_s)));
-        QFile file(rig.folder.filePath(u"config/autostart"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("x") == 1);
-    }
-    ViewRig view(guideWindow, rig.setup);
+    QVERIFY(rig.blockAutostart(true));
     QString why;
-    QVERIFY2(view.ready(&why), qPrintable(why));
-    QQuickItem *primary = view.item(u"primaryButton"_s);
-    view.click(primary);
-    view.click(primary);
-    QQuickItem *login = view.item(u"loginSwitch"_s);
-    QTRY_VERIFY(ViewRig::shown(login));
+    QVERIFY2(rig.view.ready(&why), qPrintable(why));
+    rig.click(u"primaryButton"_s, 2);
+    QTRY_VERIFY(rig.shows(u"loginSwitch"_s));
+    QQuickItem *login = rig.view.item(u"loginSwitch"_s);
     QVERIFY(!login->property("checked").toBool());
 
-    view.click(login);
-    QTRY_COMPARE(login->property("checked").toBool(), !blocked);
-    QCOMPARE(rig.loginItem.isEnabled(), !blocked);
-    // Flipped back after a refusal, the switch still follows the next answer.
-    if (blocked) {
-        QVERIFY(QFile::remove(rig.folder.filePath(u"config/autostart"_s)));
-        view.click(login);
-        QTRY_VERIFY(login->property("checked").toBool());
-        QVERIFY(rig.loginItem.isEnabled());
-    }
+    rig.click(u"loginSwitch"_s);
+    QTRY_VERIFY(!login->property("checked").toBool());
+    QVERIFY(!rig.loginItem.isEnabled());
+    QVERIFY(rig.blockAutostart(false));
+    rig.click(u"loginSwitch"_s);
+    QTRY_VERIFY(login->property("checked").toBool());
+    QVERIFY(rig.loginItem.isEnabled());
 }
 
-void OnboardingViewTest::about()
+// Every configured link is drawn, and a click goes through the app's one opener.
+void OnboardingViewTest::aboutLinks()
 {
-    Rig rig;
-    ViewRig view(aboutWindow, rig.setup);
+    Rig rig(FixtureApp::State::withData, R"(
+import QtQuick
+import Quorvane.Onboarding
+Window {
+    width: 416; height: 400; visible: true
+    AboutView { anchors.fill: parent }
+})");
     QString why;
-    QVERIFY2(view.ready(&why), qPrintable(why));
-    QCOMPARE(rig.text(view.item(u"versionLine"_s)), u"Version 2.0 (200)"_s);
-    QCOMPARE(rig.text(view.item(u"madeBy"_s)), u"Made by Ilvane Dorsk"_s);
-
-    // Every configured link is drawn, and a click goes through the app's one opener.
-    LinkListModel *links = rig.setup.about()->links();
-    QVERIFY(links->rowCount() > 0);
-    QQuickItem *row = view.item(u"productLinks"_s);
-    QVERIFY(row && ViewRig::shown(row));
+    QVERIFY2(rig.view.ready(&why), qPrintable(why));
+    QCOMPARE(rig.text(u"versionLine"_s), u"Version 2.0 (200)"_s);
+    const LinkListModel &links = *rig.setup.about()->links();
     QList<QQuickItem *> drawn;
-    for (QQuickItem *child : row->childItems()) {
+    for (QQuickItem *child : rig.view.item(u"productLinks"_s)->childItems()) {
         if (child->property("url").isValid())
             drawn.append(child);
     }
-    QCOMPARE(drawn.size(), links->rowCount());
-    const QUrl last = links->data(links->index(links->rowCount() - 1), LinkListModel::UrlRole).toUrl();
-    view.click(drawn.last());
-    QTRY_COMPARE(rig.app.opened, QList<QUrl>{last});
+    QCOMPARE(drawn.size(), links.rowCount());
+    QVERIFY(!drawn.isEmpty());
+    rig.view.click(drawn.last());
+    QTRY_COMPARE(rig.app.opened, QList<QUrl>{links.data(links.index(links.rowCount() - 1), LinkListModel::UrlRole).toUrl()});
 }
 
 QTEST_MAIN(OnboardingViewTest)

@@ -4,7 +4,7 @@
 #include "ModelRig.h"
 #include "SetupServices.h"
 #include "ViewRig.h"
-#include "linux/AutostartLoginItem.h"
+#include "support/MemoryLoginItem.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
@@ -52,8 +52,7 @@ struct Rig {
     [[nodiscard]] bool waiting() const { return shows(u"waitingPart"_s) && !code().isEmpty(); }
 
     ModelRig models;
-    QTemporaryDir folder;
-    AutostartLoginItem loginItem{folder.filePath(u"config"_s), u"/usr/bin/quorvane"_s};
+    MemoryLoginItem loginItem;
     std::unique_ptr<AppModel> model;
     std::unique_ptr<SetupServices> setup;
     std::unique_ptr<ViewRig> view;
@@ -65,16 +64,11 @@ class SignInPanelTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase() { ViewRig::prepareProcess(); }
     void showsTheCodeAndCancels();
     void tryAgainAsksForANewCode();
     void approvalSignsTheModelIn();
 };
-
-void SignInPanelTest::initTestCase()
-{
-    ViewRig::prepareProcess();
-}
 
 void SignInPanelTest::showsTheCodeAndCancels()
 {
