@@ -38,8 +38,6 @@ ToolBar {
         SymbolButton {
             objectName: "sidebarToggle"
             symbol: "sidebar.left"
-            checkable: true
-            checked: root.sidebarVisible
             onClicked: root.toggleSidebar()
             Accessible.name: root.sidebarVisible ? qsTr("Hide Sidebar") : qsTr("Show Sidebar")
             ToolTip.visible: hovered

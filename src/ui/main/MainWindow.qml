@@ -36,6 +36,16 @@ ApplicationWindow {
         id: split
         anchors.fill: parent
         orientation: Qt.Horizontal
+        // A hairline between the columns, with a few pixels either side to grab.
+        handle: Item {
+            implicitWidth: 5
+            Rectangle {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 1
+                height: parent.height
+                color: Qt.darker(palette.window, 1.15)
+            }
+        }
 
         Sidebar {
             objectName: "sidebar"

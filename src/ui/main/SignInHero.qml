@@ -33,14 +33,16 @@ Item {
             color: SystemColors.secondary
             text: qsTr("Connect this computer to your Quorvane account to see bookings, edit availability and share times.")
         }
-        // The sign-in panel of the onboarding module goes here: set `source` to its
-        // "qrc:/qt/qml/Quorvane/Onboarding/SignInPanel.qml" once that module is linked.
+        // The onboarding module's sign-in panel, made only while the hero shows, so that no
+        // sign-in flow lives on behind the screens.
         Loader {
             id: signInPanelSlot
             objectName: "signInPanelSlot"
             Layout.alignment: Qt.AlignHCenter
             Layout.maximumWidth: 380
             Layout.preferredWidth: 380
+            active: root.visible
+            source: "qrc:/qt/qml/Quorvane/Onboarding/SignInPanel.qml"
         }
     }
 }

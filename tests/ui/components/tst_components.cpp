@@ -1,0 +1,212 @@
+// The shared QML pieces in a window of their own: the loading skeleton, the banner's
+// buttons and keys, and the tinted icons.
+#include "IconProvider.h"
+
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQmlExpression>
+#include <QQuickItem>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
+Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+
+namespace {
+
+// A window holding `body`, loaded in a fresh engine with the icons.
+struct Host {
+    explicit Host(const QByteArray &body)
+    {
+        engine.addImportPath(u"qrc:/qt/qml"_s);
+        engine.addImageProvider(u"icon"_s, new IconProvider);
+        QObject::connect(&engine, &QQmlEngine::warnings, &engine, [this](const QList<QQmlError> &list) {
+            for (const QQmlError &w : list)
+                warnings.append(w.toString());
+        });
+        const QByteArray qml = "import QtQuick\nimport QtQuick.Controls\nimport Quorvane.App\n"
+                               "import Quorvane.Components\n"
+                               "ApplicationWindow { width: 640; height: 240; visible: true\n"
+                               + body + "\n}\n";
+        engine.loadData(qml, QUrl(u"file:///components-test/Host.qml"_s));
+        if (!engine.rootObjects().isEmpty())
+            window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+        exposed = window && QTest::qWaitForWindowExposed(window);
+    }
+    [[nodiscard]] QQuickItem *item(const QString &name) const { return find(window->contentItem(), name); }
+    static QQuickItem *find(QQuickItem *under, const QString &name)
+    {
+        if (!under || under->objectName() == name)
+            return under;
+        for (QQuickItem *child : under->childItems()) {
+            if (QQuickItem *found = find(child, name))
+                return found;
+        }
+        return nullptr;
+    }
+    [[nodiscard]] QVariant eval(const QString &name, const QString &expression) const
+    {
+        QQmlExpression e(qmlContext(item(name)), item(name), expression);
+        return e.evaluate();
+    }
+    void click(const QString &name) const
+    {
+        QQuickItem *target = item(name);
+        QVERIFY2(target, qPrintable(name));
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint());
+    }
+
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = nullptr;
+    bool exposed = false;
+    QStringList warnings;
+};
+
+#define READY(host) QVERIFY2((host).window && (host).exposed, qPrintable((host).warnings.join(u'\n')))
+
+} // namespace
+
+class TestComponents : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QQuickStyle::setStyle(u"Fusion"_s); }
+
+    void skeletonRows_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::newRow("none") << 0;
+        QTest::newRow("default five") << 5;
+        QTest::newRow("eight") << 8;
+    }
+    // Bars at the fixed widths, one row each; read out as one "Loading" even when empty.
+    void skeletonRows()
+    {
+        QFETCH(int, rows);
+        Host host("SkeletonList { objectName: 'skeleton'; width: 400; rows: " + QByteArray::number(rows) + " }");
+        READY(host);
+        QQuickItem *skeleton = host.item(u"skeleton"_s);
+        QCOMPARE(host.eval(u"skeleton"_s, u"Accessible.name"_s).toString(), u"Loading"_s);
+        QQuickItem *column = skeleton->childItems().first();
+        QList<QQuickItem *> bars;
+        for (QQuickItem *child : column->childItems()) {
+            if (child->childItems().size() == 2)
+                bars.append(child);
+        }
+        QCOMPARE(bars.size(), rows);
+        if (rows > 3) {
+            QCOMPARE(bars[3]->childItems()[0]->width(), 161.0);
+            QCOMPARE(bars[3]->childItems()[1]->width(), 109.0);
+            QCOMPARE(bars[1]->y() - bars[0]->y(), 12.0 + 14.0);
+        }
+        QCOMPARE(skeleton->property("animating").toBool(), rows > 0);
+    }
+
+    // The shimmer runs only while someone can see it.
+    void shimmerStopsWhenHidden()
+    {
+        Host host("SkeletonList { objectName: 'skeleton'; width: 400 }");
+        READY(host);
+        QQuickItem *skeleton = host.item(u"skeleton"_s);
+        QVERIFY(skeleton->property("animating").toBool());
+        const double phase = skeleton->property("phase").toDouble();
+        QTRY_VERIFY(skeleton->property("phase").toDouble() != phase);
+
+        host.window->hide();
+        QTRY_VERIFY(!skeleton->property("animating").toBool());
+        const double stopped = skeleton->property("phase").toDouble();
+        QTest::qWait(100);
+        QCOMPARE(skeleton->property("phase").toDouble(), stopped);
+
+        host.window->show();
+        QTRY_VERIFY(skeleton->property("animating").toBool());
+        skeleton->setVisible(false);
+        QTRY_VERIFY(!skeleton->property("animating").toBool());
+    }
+
+    void bannerButtons_data()
+    {
+        QTest::addColumn<bool>("retry");
+        QTest::newRow("with retry") << true;
+        QTest::newRow("without retry") << false;
+    }
+    void bannerButtons()
+    {
+        QFETCH(bool, retry);
+        Host host("BannerView { objectName: 'banner'; width: 600; message: 'Something failed'; kind: AppModel.Error;"
+                  " showRetry: "
+                  + QByteArray(retry ? "true" : "false") + " }");
+        READY(host);
+        QObject *banner = host.item(u"banner"_s);
+        QSignalSpy retried(banner, SIGNAL(retry()));
+        QSignalSpy dismissed(banner, SIGNAL(dismiss()));
+        QCOMPARE(host.item(u"bannerRetry"_s)->isVisible(), retry);
+        QVERIFY(host.item(u"bannerClose"_s)->isVisible());
+        QCOMPARE(host.eval(u"bannerClose"_s, u"Accessible.name"_s).toString(), u"Close"_s);
+
+        QTest::keyClick(host.window, Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(retried.size(), retry ? 1 : 0);
+        if (retry) {
+            host.click(u"bannerRetry"_s);
+            QCOMPARE(retried.size(), 2);
+        }
+        host.click(u"bannerClose"_s);
+        QCOMPARE(dismissed.size(), 1);
+        QCOMPARE(host.eval(u"bannerMessage"_s, u"textFormat"_s).toInt(), int(Qt::PlainText));
+    }
+
+    void bannerKinds_data()
+    {
+        QTest::addColumn<QByteArray>("kind");
+        QTest::addColumn<QString>("icon");
+        QTest::addColumn<QColor>("tint");
+        QTest::newRow("error") << QByteArray("AppModel.Error") << u"exclamationmark.triangle.fill"_s
+                               << QColor(0xFF, 0x95, 0x00);
+        QTest::newRow("offline") << QByteArray("AppModel.Offline") << u"wifi.slash"_s << QColor(0x8E, 0x8E, 0x93);
+        QTest::newRow("info") << QByteArray("AppModel.Info") << u"checkmark.circle.fill"_s << QColor(0x34, 0xC7, 0x59);
+    }
+    void bannerKinds()
+    {
+        QFETCH(QByteArray, kind);
+        QFETCH(QString, icon);
+        QFETCH(QColor, tint);
+        Host host("BannerView { objectName: 'banner'; width: 600; message: 'x'; kind: " + kind + " }");
+        READY(host);
+        QQuickItem *iconItem = host.item(u"bannerIcon"_s);
+        QCOMPARE(iconItem->property("name").toString(), icon);
+        QCOMPARE(iconItem->property("color").value<QColor>(), tint);
+        QTRY_COMPARE(iconItem->property("status").toInt(), 1); // Image.Ready: the provider drew it
+        const QImage drawn = host.window->grabWindow();
+        const QPointF centre = iconItem->mapToScene(QPointF(iconItem->width() / 2, iconItem->height() / 2));
+        bool tinted = false;
+        for (int dx = -6; dx <= 6 && !tinted; ++dx) {
+            for (int dy = -6; dy <= 6 && !tinted; ++dy) {
+                const QColor c = drawn.pixelColor(int(centre.x()) + dx, int(centre.y()) + dy);
+                tinted = qAbs(c.red() - tint.red()) < 30 && qAbs(c.green() - tint.green()) < 30
+                         && qAbs(c.blue() - tint.blue()) < 30;
+            }
+        }
+        QVERIFY2(tinted, "no pixel of the icon in its tint");
+    }
+
+    void emptyPanel()
+    {
+        Host host("EmptyPanel { objectName: 'panel'; anchors.fill: parent; title: 'No polls yet';"
+                  " symbol: 'chart.bar.doc.horizontal'\n Button { objectName: 'action'; text: 'Create a Poll' } }");
+        READY(host);
+        QVERIFY(host.item(u"action"_s)->isVisible());
+        QCOMPARE(host.item(u"emptyTitle"_s)->property("text").toString(), u"No polls yet"_s);
+        QVERIFY(host.warnings.isEmpty());
+    }
+};
+
+QTEST_MAIN(TestComponents)
+#include "tst_components.moc"
