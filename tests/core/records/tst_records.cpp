@@ -2,6 +2,7 @@
 #include "Records.h"
 
 #include <QRegularExpression>
+#include <functional>
 #include <QTest>
 #include <QTimeZone>
 
@@ -37,12 +38,8 @@ private Q_SLOTS:
         const Result<EventType> a = fromJson<EventType>(parse(R"({"slug":"intro"})"));
         const Result<EventType> b = fromJson<EventType>(parse(R"({"slug":"intro"})"));
         QVERIFY(a.ok());
-        QCOMPARE(a->slug, u"intro"_s);
-        QCOMPARE(a->title, u"Meeting"_s);
-        QCOMPARE(a->minutes, 30);
-        QCOMPARE(a->colorHex, u"#0A84FF"_s);
-        QVERIFY(a->isActive);
-        QCOMPARE(a->location, MeetingLocation::meet);
+        QCOMPARE((std::tuple{a->slug, a->title, a->minutes, a->colorHex, a->isActive, a->location}),
+                 (std::tuple{u"intro"_s, u"Meeting"_s, 30, u"#0A84FF"_s, true, MeetingLocation::meet}));
         QVERIFY(a->questions.isEmpty());
         // A generated id: canonical upper-case UUID, and new at every decoding.
         QVERIFY(QRegularExpression(u"^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"_s)
@@ -81,32 +78,15 @@ private Q_SLOTS:
         QTEST(e->isActive, "isActive");
     }
 
-    void eventTypeNeedsSlug_data()
-    {
-        QTest::addColumn<QByteArray>("json");
-        QTest::newRow("empty object") << QByteArray("{}");
-        QTest::newRow("numeric slug") << QByteArray(R"({"slug":7})");
-        QTest::newRow("null slug") << QByteArray(R"({"slug":null})");
-        QTest::newRow("not an object") << QByteArray(R"(["slug"])");
-    }
-    void eventTypeNeedsSlug()
-    {
-        QFETCH(QByteArray, json);
-        QVERIFY(!JSON::decode<EventType>(json).ok());
-    }
-
     void hostSettingsDefaults()
     {
         const Result<HostSettings> s = JSON::decode<HostSettings>("{}");
         QVERIFY(s.ok());
         QVERIFY(s->owner.isEmpty() && s->handle.isEmpty());
         QCOMPARE(s->timezone, QString::fromUtf8(QTimeZone::systemTimeZoneId()));
-        QCOMPARE(s->maxMeetingsPerDay, 5);
-        QCOMPARE(s->minNoticeMinutes, 60);
-        QCOMPARE(s->horizonDays, 14);
-        QCOMPARE(s->alertMinutesBefore, 10);
-        QCOMPARE(s->busyCalendarIDs, QStringList{u"primary"_s});
-        QCOMPARE(s->bookingCalendarID, u"primary"_s);
+        QCOMPARE((std::tuple{s->maxMeetingsPerDay, s->minNoticeMinutes, s->horizonDays, s->alertMinutesBefore}),
+                 (std::tuple{5, 60, 14, 10}));
+        QCOMPARE((std::pair{s->busyCalendarIDs, s->bookingCalendarID}), (std::pair{QStringList{u"primary"_s}, u"primary"_s}));
         QVERIFY(s->addMeet);
         QVERIFY(!JSON::decode<HostSettings>("[]").ok());
     }
@@ -145,12 +125,10 @@ private Q_SLOTS:
         QTest::addColumn<QJsonValue>("status");
         QTest::addColumn<BookingStatus>("expected");
         QTest::newRow("pending") << QJsonValue(u"pending"_s) << BookingStatus::pending;
-        QTest::newRow("rejected") << QJsonValue(u"rejected"_s) << BookingStatus::rejected;
         QTest::newRow("capitalised") << QJsonValue(u"Confirmed"_s) << BookingStatus::unknown;
         QTest::newRow("one l") << QJsonValue(u"canceled"_s) << BookingStatus::unknown;
         QTest::newRow("null") << QJsonValue(QJsonValue::Null) << BookingStatus::unknown;
         QTest::newRow("number") << QJsonValue(3) << BookingStatus::unknown;
-        QTest::newRow("object") << QJsonValue(QJsonObject{{u"a"_s, 1}}) << BookingStatus::unknown;
     }
     void bookingStatusNeverFails()
     {
@@ -160,6 +138,9 @@ private Q_SLOTS:
         const Result<Booking> b = fromJson<Booking>(o);
         QVERIFY(b.ok());
         QTEST(b->status, "expected");
+        // What this client couldn't read goes back out as "unknown", never as the original word.
+        if (b->status == BookingStatus::unknown)
+            QCOMPARE(toJson(*b).toObject().value(u"status"_s), QJsonValue(u"unknown"_s));
     }
 
     void bookingStrictness_data()
@@ -218,88 +199,65 @@ private Q_SLOTS:
         QVERIFY(!c.meetURL());
     }
 
-    void unknownStatusDoesNotSurviveEncoding()
+    // Strict records: every required field of the right type, or no record at all.
+    void strictRecords_data()
     {
-        QJsonObject o = bookingObject();
-        o.insert(u"status"_s, u"tentative"_s);
-        const Booking b = fromJson<Booking>(o).value();
-        QCOMPARE(toJson(b).toObject().value(u"status"_s).toString(), u"unknown"_s);
-    }
-
-    void accountIdIsANumber()
-    {
-        QVERIFY(JSON::decode<Account>(R"({"id":42,"email":"a@b.c"})").ok());
-        QVERIFY(!JSON::decode<Account>(R"({"id":"42","email":"a@b.c"})").ok());
-        const Result<Account> big = JSON::decode<Account>(R"({"id":9007199254740993,"email":"a@b.c", "google":{"connected":true},"links":[{"title":"Intro","minutes":30,"url":"https:\/\/x\/y"}]})");
-        QVERIFY(big.ok());
-        QCOMPARE(big->links->first().minutes, 30);
-        QVERIFY(big->google->connected);
-        QVERIFY(!big->name);
-    }
-
-    void strictRecordsRejectMissingFields_data()
-    {
+        QTest::addColumn<QString>("record");
         QTest::addColumn<QByteArray>("json");
         QTest::addColumn<bool>("ok");
-        QTest::newRow("poll") << QByteArray(R"({"id":"p","title":"T","minutes":30,"booked":false,"voters":[], "options":[{"start":"2026-03-10T14:00:00Z","votes":2}]})") << true;
-        QTest::newRow("poll without voters") << QByteArray(R"({"id":"p","title":"T","minutes":30,"booked":false, "options":[]})") << false;
-        QTest::newRow("calendar") << QByteArray(R"({"id":"c","primary":true,"writable":false})") << true;
-        QTest::newRow("calendar without writable") << QByteArray(R"({"id":"c","primary":true})") << false;
+        const auto row = [](const char *name, const char *record, const char *json, bool ok) {
+            QTest::newRow(name) << QString::fromLatin1(record) << QByteArray(json) << ok;
+        };
+        // Lenient as it is, an event type still needs its slug.
+        row("event type, empty", "EventType", "{}", false);
+        row("event type, numeric slug", "EventType", R"({"slug":7})", false);
+        row("event type, not an object", "EventType", R"(["slug"])", false);
+        row("account id beyond 2^53", "Account", R"({"id":9007199254740993,"email":"a@b.c",)"
+            R"("google":{"connected":true},"links":[{"title":"Intro","minutes":30,"url":"https:\/\/x\/y"}]})", true);
+        row("account id as text", "Account", R"({"id":"42","email":"a@b.c"})", false);
+        row("poll", "Poll", R"({"id":"p","title":"T","minutes":30,"booked":false,"voters":[],)"
+            R"("options":[{"start":"2026-03-10T14:00:00Z","votes":2}]})", true);
+        row("poll without voters", "Poll", R"({"id":"p","title":"T","minutes":30,"booked":false,"options":[]})", false);
+        row("calendar without writable", "CalendarItem", R"({"id":"c","primary":true})", false);
+        row("connectedAt is any text", "GoogleStatus",
+            R"({"connected":true,"connectedAt":"last tuesday","calendars":[{"id":"p","primary":true,"writable":true}]})",
+            true);
+        row("slot list, negative score", "SlotList", R"({"type":"intro","mode":"smart","slots":[)"
+            R"({"start":"2026-03-10T14:00:00.5Z","end":"2026-03-10T14:30:00Z","score":-3}]})", true);
+        row("slot list without mode", "SlotList", R"({"type":"intro","slots":[]})", false);
+        row("release size as text", "ReleaseInfo", R"({"version":"2.1","size":"1024","filename":"q"})", false);
+        row("snapshot", "Snapshot", R"({"upcoming":[],"history":[],"polls":[],"savedAt":"2026-03-10T14:00:00Z"})", true);
+        row("snapshot without savedAt", "Snapshot", R"({"upcoming":[],"history":[],"polls":[]})", false);
+        row("snapshot without history", "Snapshot", R"({"upcoming":[],"polls":[],"savedAt":"2026-03-10T14:00:00Z"})",
+            false);
+        row("location, unknown word", "MeetingLocation", R"("zoom")", false);
+        row("location, other case", "MeetingLocation", R"("Meet")", false);
     }
-    void strictRecordsRejectMissingFields()
+    void strictRecords()
     {
+        QFETCH(QString, record);
         QFETCH(QByteArray, json);
-        const bool decoded = json.contains("\"options\"") ? JSON::decode<Poll>(json).ok()
-                                                          : JSON::decode<CalendarItem>(json).ok();
-        QTEST(decoded, "ok");
+        const QHash<QString, std::function<bool()>> decoders{
+            {u"EventType"_s, [&] { return JSON::decode<EventType>(json).ok(); }},
+            {u"Account"_s, [&] { return JSON::decode<Account>(json).ok(); }},
+            {u"Poll"_s, [&] { return JSON::decode<Poll>(json).ok(); }},
+            {u"CalendarItem"_s, [&] { return JSON::decode<CalendarItem>(json).ok(); }},
+            {u"GoogleStatus"_s, [&] { return JSON::decode<GoogleStatus>(json).ok(); }},
+            {u"SlotList"_s, [&] { return JSON::decode<SlotList>(json).ok(); }},
+            {u"ReleaseInfo"_s, [&] { return JSON::decode<ReleaseInfo>(json).ok(); }},
+            {u"Snapshot"_s, [&] { return JSON::decode<Snapshot>(json).ok(); }},
+            {u"MeetingLocation"_s, [&] { return JSON::decode<MeetingLocation>(json).ok(); }},
+        };
+        QTEST(decoders.value(record)(), "ok");
     }
 
-    void googleStatusKeepsConnectedAtAsText()
+    void emptySnapshotEncodesTheDistantPast()
     {
-        const Result<GoogleStatus> g = JSON::decode<GoogleStatus>(
-            R"({"connected":true,"connectedAt":"last tuesday","calendars":[{"id":"primary","primary":true,"writable":true}]})");
-        QVERIFY(g.ok());
-        QCOMPARE(*g->connectedAt, u"last tuesday"_s);
-        QCOMPARE(g->calendars->size(), 1);
-    }
-
-    void slotListAndReleaseInfo()
-    {
-        const Result<SlotList> l = JSON::decode<SlotList>(R"({"type":"intro","mode":"smart","slots":[ {"start":"2026-03-10T14:00:00.5Z","end":"2026-03-10T14:30:00Z","score":-3}]})");
-        QVERIFY(l.ok());
-        QVERIFY(!l->link);
-        QCOMPARE(l->slots.first().score, -3);
-        QCOMPARE(l->slots.first().start.time().msec(), 500);
-        QVERIFY(!JSON::decode<SlotList>(R"({"type":"intro","slots":[]})").ok());
-        QVERIFY(JSON::decode<ReleaseInfo>(R"({"version":"2.1","size":1024,"filename":"q.AppImage"})").ok());
-        QVERIFY(!JSON::decode<ReleaseInfo>(R"({"version":"2.1","size":"1024","filename":"q"})").ok());
-    }
-
-    void snapshotRequiresItsLists()
-    {
-        QVERIFY(JSON::decode<Snapshot>(R"({"upcoming":[],"history":[],"polls":[],"savedAt":"2026-03-10T14:00:00Z"})").ok());
-        QVERIFY(!JSON::decode<Snapshot>(R"({"upcoming":[],"history":[],"polls":[]})").ok());
-        QVERIFY(!JSON::decode<Snapshot>(R"({"upcoming":[],"polls":[],"savedAt":"2026-03-10T14:00:00Z"})").ok());
-        const Snapshot fresh;
-        QCOMPARE(fresh.savedAt, distantPast());
-        QCOMPARE(JSON::encode(fresh),
+        QCOMPARE(JSON::encode(Snapshot()),
                  QByteArray(R"({"history":[],"polls":[],"savedAt":"0001-01-01T00:00:00Z","upcoming":[]})"));
     }
 
-    void timeRangeDurationIsNotClamped()
-    {
-        QCOMPARE((TimeRange{600, 540}).duration(), -60);
-        QCOMPARE(qHash(TimeRange{1, 2}), qHash(TimeRange{1, 2}));
-    }
-
-    void meetingLocationTable()
-    {
-        QCOMPARE(Location::allCases().size(), 4);
-        QCOMPARE(Location::label(MeetingLocation::in_person), u"In person"_s);
-        QCOMPARE(Location::symbol(MeetingLocation::custom), u"text.bubble.fill"_s);
-        QVERIFY(!fromJson<MeetingLocation>(QJsonValue(u"zoom"_s)).ok());
-        QVERIFY(!Location::fromRawValue(u"Meet"_s));
-    }
+    void timeRangeDurationIsNotClamped() { QCOMPARE((TimeRange{600, 540}).duration(), -60); }
 };
 
 QTEST_GUILESS_MAIN(TestRecords)

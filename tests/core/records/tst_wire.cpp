@@ -23,9 +23,7 @@ private Q_SLOTS:
         QTest::newRow("offset across midnight") << u"2026-03-10T01:30:00+02:00"_s << u"2026-03-09T23:30:00.000Z"_s;
         QTest::newRow("no zone") << u"2026-03-10T14:00:00"_s << QString();
         QTest::newRow("offset without colon") << u"2026-03-10T14:00:00+0100"_s << QString();
-        QTest::newRow("date only") << u"2026-03-10"_s << QString();
         QTest::newRow("impossible day") << u"2026-02-30T10:00:00Z"_s << QString();
-        QTest::newRow("space instead of T") << u"2026-03-10 14:00:00Z"_s << QString();
         QTest::newRow("half-hour offset") << u"2026-03-10T19:30:00+05:30"_s << u"2026-03-10T14:00:00.000Z"_s;
         QTest::newRow("empty fraction") << u"2026-03-10T14:00:00.Z"_s << QString();
         QTest::newRow("text after zone") << u"2026-03-10T14:00:00Zjunk"_s << QString();
