@@ -1,10 +1,7 @@
 // The client over real HTTP: statuses, retries and pauses, network failures, the exact
 // request on the wire, cancellation, and the fifteen operations.
-#include "APIError.h"
-#include "Cancelled.h"
 #include "ISO.h"
 #include "JSON.h"
-#include "JSONFailure.h"
 #include "NetworkTransport.h"
 #include "QuorvaneAPI.h"
 #include "support/ApiOutcome.h"
@@ -54,31 +51,22 @@ QString show(const BookingChanges &c)
 {
     return show(c.changes) + u" at "_s + (c.serverTime ? ISO::string(*c.serverTime) : u"none"_s);
 }
-QString show(const APIError &e) { return describe(e); }
-
+// A call's result as text; settle() turns its failures into text too.
 template<class T>
 QCoro::Task<QString> shown(QCoro::Task<T> task)
 {
-    QString outcome = u"done"_s;
-    try {
-        if constexpr (std::is_void_v<T>)
-            co_await std::move(task);
-        else
-            outcome = show(co_await std::move(task));
-    } catch (const APIError &error) {
-        outcome = show(error);
-    } catch (const Cancelled &) {
-        outcome = u"cancelled"_s;
-    } catch (const JSONFailure &failure) {
-        outcome = u"json(%1)"_s.arg(failure.error().description());
+    if constexpr (std::is_void_v<T>) {
+        co_await std::move(task);
+        co_return u"done"_s;
+    } else {
+        co_return show(co_await std::move(task));
     }
-    co_return outcome;
 }
 
 template<class T>
 QString run(QCoro::Task<T> task)
 {
-    return QCoro::waitFor(shown(std::move(task)));
+    return test::run(shown(std::move(task)));
 }
 
 // One operation on a fresh client, its outcome as text.
@@ -157,21 +145,16 @@ private Q_SLOTS:
         row("5xx: the last try decides", "GET", 2, {answer(502, R"({"error":"a"})"), answer(503, R"({"error":"b"})")},
             "server(503, b)", 2);
         row("500 POST, no retry", "POST", 2, {answer(500)}, "server(500, )", 1);
-        row("503 PUT, no retry", "PUT", 2, {answer(503)}, "server(503, )", 1);
         row("404 with text", "GET", 2, {answer(404, R"({"error":"Gone"})")}, "server(404, Gone)", 1);
-        row("409 other keys", "POST", 1, {answer(409, R"({"error":"Taken","code":9})")}, "server(409, Taken)", 1);
         row("numeric error", "GET", 2, {answer(500, R"({"error":4})"), answer(500, R"({"error":4})")},
             "server(500, )", 2);
-        row("error in an array", "GET", 2, {answer(400, R"([{"error":"x"}])")}, "server(400, )", 1);
         row("not JSON", "POST", 1, {answer(502, "<html>")}, "server(502, )", 1);
         row("attempts 0: one try", "GET", 0, {answer(500), answer(200)}, "server(500, )", 1);
-        row("negative attempts", "GET", -3, {answer(429), answer(200)}, "rateLimited", 1);
         row("network fails every GET", "GET", 2, {cutOff(), cutOff()}, "offline", 2);
         row("network then 200", "GET", 2, {cutOff(), answer(200, "1")}, "ok 1", 2);
         row("network then 503", "GET", 2, {cutOff(), answer(503)}, "server(503, )", 2);
         row("503 then network", "GET", 2, {answer(503), cutOff()}, "offline", 2);
         row("network, POST once", "POST", 2, {cutOff(), answer(200)}, "offline", 1);
-        row("network, PUT once", "PUT", 2, {cutOff(), answer(200)}, "offline", 1);
     }
     void statuses()
     {
@@ -226,7 +209,6 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("method");
         QTest::newRow("GET") << "GET"_ba;
         QTest::newRow("POST") << "POST"_ba;
-        QTest::newRow("PUT") << "PUT"_ba;
     }
     void headers()
     {
@@ -376,11 +358,8 @@ private Q_SLOTS:
             "<html>", "json(" + notJSON + ")");
         // A link answer that is not an object with a text `url` gives no value, not a failure.
         const QByteArray poll = R"({"title":"T","type":"intro"})";
-        row("poll link a number", OPERATION(createPoll(u"T"_s, u"intro"_s)), "POST /sync/polls", poll,
-            R"({"url":42})", "none");
         row("poll answer an array", OPERATION(createPoll(u"T"_s, u"intro"_s)), "POST /sync/polls", poll,
             R"(["x"])", "none");
-        row("connect link empty", OPERATION(connectLink()), "POST /sync/connect-link", "{}", R"({"url":""})", "none");
         row("connect link unparseable", OPERATION(connectLink()), "POST /sync/connect-link", "{}",
             "{\"url\":\"http://exa mple.com/\"}", "none");
     }
@@ -393,7 +372,7 @@ private Q_SLOTS:
         QFETCH(QString, expected);
         Harness h;
         h.server.enqueue({answer(200, reply)});
-        QCOMPARE(QCoro::waitFor(call(h.api())), expected);
+        QCOMPARE(test::run(call(h.api())), expected);
         QCOMPARE(h.server.requests().size(), 1);
         const ScriptedServer::Request &r = h.server.requests().first();
         QCOMPARE(QString::fromLatin1(r.method + ' ') + r.url.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority),
