@@ -81,24 +81,9 @@ SandboxHarness::Response SandboxHarness::send(const QByteArray &method, const QS
     return r;
 }
 
-SandboxHarness::Response SandboxHarness::get(const QString &path, const QByteArray &bearer)
-{
-    return send("GET", path, {}, {}, bearer);
-}
-
 SandboxHarness::Response SandboxHarness::post(const QString &path, const QJsonObject &body, const QByteArray &bearer)
 {
     return send("POST", path, QJsonDocument(body).toJson(QJsonDocument::Compact), "application/json", bearer);
-}
-
-SandboxHarness::Response SandboxHarness::put(const QString &path, const QByteArray &body, const QByteArray &bearer)
-{
-    return send("PUT", path, body, "application/json", bearer);
-}
-
-SandboxHarness::Response SandboxHarness::del(const QString &path)
-{
-    return send("DELETE", path, {}, {}, {});
 }
 
 SandboxHarness::Response SandboxHarness::postForm(const QString &path, const QList<QPair<QString, QString>> &fields)

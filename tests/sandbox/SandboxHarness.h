@@ -37,13 +37,16 @@ public:
     void setNow(const Instant &now) { *m_now = now; }
     void advance(qint64 seconds) { *m_now = m_now->addSecs(seconds); }
 
-    Response get(const QString &path, const QByteArray &bearer = token);
-    Response post(const QString &path, const QJsonObject &body, const QByteArray &bearer = token);
-    Response put(const QString &path, const QByteArray &body, const QByteArray &bearer = token);
-    Response del(const QString &path);
-    Response postForm(const QString &path, const QList<QPair<QString, QString>> &fields);
     Response send(const QByteArray &method, const QString &path, const QByteArray &body, const QByteArray &contentType,
                   const QByteArray &bearer);
+    Response get(const QString &path, const QByteArray &bearer = token) { return send("GET", path, {}, {}, bearer); }
+    Response del(const QString &path) { return send("DELETE", path, {}, {}, {}); }
+    Response put(const QString &path, const QByteArray &body, const QByteArray &bearer = token)
+    {
+        return send("PUT", path, body, "application/json", bearer);
+    }
+    Response post(const QString &path, const QJsonObject &body, const QByteArray &bearer = token);
+    Response postForm(const QString &path, const QList<QPair<QString, QString>> &fields);
 
     // A Monday morning in March, before New York's clocks change.
     static Instant defaultNow();
