@@ -7,6 +7,7 @@
 #include <QTest>
 
 using namespace quorvane;
+using namespace Qt::StringLiterals;
 using namespace quorvane::test;
 
 namespace {
@@ -14,45 +15,45 @@ namespace {
 // What logind sends around a suspend: true before, false after.
 void prepareForSleep(QDBusConnection &from, bool sleeping)
 {
-    QDBusMessage signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"),
-                                                     QStringLiteral("org.freedesktop.login1.Manager"),
-                                                     QStringLiteral("PrepareForSleep"));
+    QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
+                                                     u"org.freedesktop.login1.Manager"_s,
+                                                     u"PrepareForSleep"_s);
     signal << sleeping;
     from.send(signal);
     // A call back to the bus returns only after the daemon has routed what this client sent before it.
-    from.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.DBus"));
+    from.interface()->isServiceRegistered(u"org.freedesktop.DBus"_s);
 }
 
 } // namespace
 
-class Login1WakeMonitorTest : public QObject {
-    Q_OBJECT
-private Q_SLOTS:
-    void wokeAfterSleepOnly();
-};
-
-void Login1WakeMonitorTest::wokeAfterSleepOnly()
+class Login1WakeMonitorTest : public QObject
 {
-    PrivateBus bus;
-    QVERIFY2(bus.isRunning(), qPrintable(bus.error()));
-    QDBusConnection logind = bus.connect(QStringLiteral("logind"));
-    QVERIFY(logind.registerService(QStringLiteral("org.freedesktop.login1")));
-    QDBusConnection impostor = bus.connect(QStringLiteral("impostor"));
+    Q_OBJECT
 
-    Login1WakeMonitor monitor(bus.connect(QStringLiteral("app")));
-    QSignalSpy woke(&monitor, &WakeMonitor::woke);
+private Q_SLOTS:
+    void wokeAfterSleepOnly()
+    {
+        PrivateBus bus;
+        QVERIFY2(bus.isRunning(), qPrintable(bus.error()));
+        QDBusConnection logind = bus.connect(u"logind"_s);
+        QVERIFY(logind.registerService(u"org.freedesktop.login1"_s));
+        QDBusConnection impostor = bus.connect(u"impostor"_s);
 
-    // Anyone may send the signal; only the owner of logind's name is believed.
-    prepareForSleep(impostor, false);
-    prepareForSleep(logind, true);
-    QTest::qWait(200);
-    QCOMPARE(woke.size(), 0);
+        Login1WakeMonitor monitor(bus.connect(u"app"_s));
+        QSignalSpy woke(&monitor, &WakeMonitor::woke);
 
-    prepareForSleep(logind, false);
-    QTRY_COMPARE(woke.size(), 1);
-    QTest::qWait(200);
-    QCOMPARE(woke.size(), 1);
-}
+        // Anyone may send the signal; only the owner of logind's name is believed.
+        prepareForSleep(impostor, false);
+        prepareForSleep(logind, true);
+        QTest::qWait(200);
+        QCOMPARE(woke.size(), 0);
+
+        prepareForSleep(logind, false);
+        QTRY_COMPARE(woke.size(), 1);
+        QTest::qWait(200);
+        QCOMPARE(woke.size(), 1);
+    }
+};
 
 QTEST_GUILESS_MAIN(Login1WakeMonitorTest)
 #include "tst_login1_wake_monitor.moc"
