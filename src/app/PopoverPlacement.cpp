@@ -12,8 +12,16 @@ int clampInto(int value, int low, int high)
 }
 } // namespace
 
-QPoint topLeft(const QRect &icon, const QPoint &cursor, const QSize &popover, const QRect &screen)
+QRect anchor(const QRect &icon, const QPoint &cursor)
 {
+    if (icon.isEmpty() || icon.contains(cursor))
+        return icon;
+    return QRect(cursor - QPoint(icon.width() / 2, icon.height() / 2), icon.size());
+}
+
+QPoint topLeft(const QRect &reported, const QPoint &cursor, const QSize &popover, const QRect &screen)
+{
+    const QRect icon = anchor(reported, cursor);
     // The pointer is an anchor of no size: its top and bottom are the same line.
     const bool byIcon = !icon.isEmpty();
     const int left = byIcon ? icon.left() : cursor.x();
