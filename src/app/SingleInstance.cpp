@@ -2,7 +2,9 @@
 
 #include "BuildInfo.h"
 
+#include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QPointer>
@@ -29,10 +31,20 @@ SingleInstance::~SingleInstance() = default;
 
 QString SingleInstance::defaultPath()
 {
-    const QString name = QLatin1StringView(build::appId) + u".instance"_s;
-    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (!runtime.isEmpty() && QDir(runtime).exists())
-        return QDir(runtime).filePath(name);
+    return pathFor(qEnvironmentVariable("XDG_RUNTIME_DIR"), QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+}
+
+QString SingleInstance::pathFor(const QString &runtimeDir, const QString &configDir)
+{
+    QString name = QLatin1StringView(build::appId);
+    // Settings of their own make another instance: the demo runs beside the everyday app.
+    const QString usual = QDir::home().filePath(u".config"_s);
+    if (!configDir.isEmpty() && QDir::cleanPath(configDir) != QDir::cleanPath(usual))
+        name += u'-' + QString::fromLatin1(QCryptographicHash::hash(QFile::encodeName(QDir::cleanPath(configDir)),
+                                                                    QCryptographicHash::Sha1).toHex().left(12));
+    name += u".instance"_s;
+    if (!runtimeDir.isEmpty() && QDir(runtimeDir).exists())
+        return QDir(runtimeDir).filePath(name);
     return QDir(QDir::tempPath()).filePath(u"%1-%2"_s.arg(name).arg(::getuid()));
 }
 

@@ -19,9 +19,12 @@ public:
     explicit SingleInstance(QString socketPath, QObject *parent = nullptr);
     ~SingleInstance() override;
 
-    // $XDG_RUNTIME_DIR/<app id>.instance (private to the user), else a name in the temp
-    // folder that carries the user id.
+    // The path for this process's runtime and settings folders.
     [[nodiscard]] static QString defaultPath();
+    // <runtime>/<app id>.instance (the runtime folder is private to the user), else a name in
+    // the temp folder that carries the user id. Settings in a folder other than ~/.config add
+    // a hash of it to the name: they make an instance of their own.
+    [[nodiscard]] static QString pathFor(const QString &runtimeDir, const QString &configDir);
 
     // The launch's one call: true when a running instance took `request` and this process is
     // done; otherwise this process is the running instance from now on (or, where the socket

@@ -132,15 +132,41 @@ private Q_SLOTS:
         QVERIFY(!launch.isListening());
     }
 
-    void theSocketLivesInTheUsersRuntimeFolder()
+    void whereTheSocketLives_data()
     {
-        const QByteArray saved = qgetenv("XDG_RUNTIME_DIR");
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.path()));
-        QCOMPARE(SingleInstance::defaultPath(), m_folder.filePath(u"com.peldrachen.quorvane.instance"_s));
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder.filePath(u"gone"_s)));
-        QVERIFY(SingleInstance::defaultPath().startsWith(QDir::tempPath()));
-        QVERIFY(SingleInstance::defaultPath().endsWith(u"-%1"_s.arg(::getuid())));
-        qputenv("XDG_RUNTIME_DIR", saved);
+        const QString home = QDir::homePath();
+        QTest::addColumn<QString>("runtime");
+        QTest::addColumn<QString>("config");
+        QTest::addColumn<QString>("expected"); // %1: the temp folder, %2: the user id
+
+        QTest::newRow("usual settings") << u"/run/user/1000"_s << home + u"/.config"_s
+                                        << u"/run/user/1000/com.peldrachen.quorvane.instance"_s;
+        QTest::newRow("usual settings, written otherwise") << u"/run/user/1000"_s << home + u"/.config/"_s
+                                                           << u"/run/user/1000/com.peldrachen.quorvane.instance"_s;
+        QTest::newRow("no runtime folder") << QString() << home + u"/.config"_s
+                                           << u"%1/com.peldrachen.quorvane.instance-%2"_s;
+        QTest::newRow("runtime folder gone") << u"/nonexistent/run"_s << home + u"/.config"_s
+                                             << u"%1/com.peldrachen.quorvane.instance-%2"_s;
+    }
+    void whereTheSocketLives()
+    {
+        QFETCH(QString, runtime);
+        QFETCH(QString, config);
+        QFETCH(QString, expected);
+        if (runtime.startsWith(u"/run/"_s))
+            runtime = m_folder.path(); // a folder that exists, standing in for /run/user/ID
+        expected.replace(u"/run/user/1000"_s, m_folder.path());
+        QCOMPARE(SingleInstance::pathFor(runtime, config), expected.arg(QDir::tempPath()).arg(::getuid()));
+    }
+
+    void otherSettingsMakeAnotherInstance()
+    {
+        const QString usual = SingleInstance::pathFor(m_folder.path(), QDir::home().filePath(u".config"_s));
+        const QString demo = SingleInstance::pathFor(m_folder.path(), u"/tmp/quorvane-demo.1/config"_s);
+        const QString other = SingleInstance::pathFor(m_folder.path(), u"/tmp/quorvane-demo.2/config"_s);
+        QVERIFY(demo != usual && other != usual && demo != other);
+        QCOMPARE(SingleInstance::pathFor(m_folder.path(), u"/tmp/quorvane-demo.1/config/"_s), demo);
+        QVERIFY(demo.endsWith(u".instance"_s));
     }
 
 private:
