@@ -1,18 +1,28 @@
 // Builds the application's objects, wires them together and loads the QML. Nothing else.
 #include "AppModel.h"
+#include "IconProvider.h"
+#include "LaunchOptions.h"
 #include "NetworkTransport.h"
 #include "Preferences.h"
+#include "SelfTest.h"
+#include "SetupServices.h"
 #include "ShellController.h"
+#include "SingleInstance.h"
 #include "SystemClipboard.h"
 #include "SystemClock.h"
+#include "TrayController.h"
 #include "UrlOpener.h"
+#include "linux/AutostartLoginItem.h"
 #include "linux/FreedesktopNotifier.h"
 #include "linux/LibsecretStore.h"
 #include "linux/Login1WakeMonitor.h"
 
+#include "QuorvaneQmlModules.h"
+
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QLocale>
 #include <QNetworkAccessManager>
 #include <QQmlApplicationEngine>
@@ -20,18 +30,17 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTimeZone>
-#include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_MainPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ShellPlugin)
+#include <cstdio>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;
 
 int main(int argc, char *argv[])
 {
+    QElapsedTimer started;
+    started.start();
     QApplication app(argc, argv); // Qt Charts needs the widgets application
     QApplication::setApplicationName(u"Quorvane"_s);
     QApplication::setOrganizationName(u"Quorvane"_s);
@@ -39,8 +48,20 @@ int main(int argc, char *argv[])
     QApplication::setQuitOnLastWindowClosed(false); // the tray keeps the app alive
     QQuickStyle::setStyle(u"Fusion"_s);
 
+    const LaunchOptions options = LaunchOptions::parse(QApplication::arguments());
+    if (options.exitCode) {
+        std::fprintf(*options.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(options.message));
+        return *options.exitCode;
+    }
+    // A second launch hands its window to the running one; the self-test is always its own.
+    SingleInstance instance(SingleInstance::defaultPath());
+    if (!options.selfTest && instance.handOver(options.window))
+        return 0;
+
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Quorvane"_s, u"Quorvane"_s);
     Preferences preferences(settings);
+    if (options.server)
+        preferences.setServerURL(*options.server);
     SystemClock clock;
     QNetworkAccessManager network;
     LibsecretStore secrets;
@@ -50,6 +71,7 @@ int main(int argc, char *argv[])
     Login1WakeMonitor wake(QDBusConnection::systemBus());
     UrlOpener opener;
     SystemClipboard clipboard;
+    AutostartLoginItem loginItem;
 
     AppEnvironment env;
     env.clock = &clock;
@@ -64,18 +86,29 @@ int main(int argc, char *argv[])
     env.locale = locale;
     env.zone = zone;
     AppModel model(env);
+    SetupServices setup(model, env, loginItem);
+    ShellController shell;
 
     QObject::connect(&notifier, &Notifier::joinRequested, &notifier, [&opener](const QUrl &url) { opener.open(url); });
-
-    ShellController shell;
+    QObject::connect(&notifier, &Notifier::activateRequested, &shell, [&shell] { shell.open(u"main"_s); });
+    QObject::connect(&instance, &SingleInstance::requested, &shell, &ShellController::open);
     QObject::connect(&shell, &ShellController::quitRequested, &app, &QApplication::quit);
 
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "App", &model);
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Shell", &shell);
+    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Setup", &setup);
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.load(QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s));
+    engine.addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
+    const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
+    if (options.selfTest)
+        return SelfTest(engine, started).run(root, SelfTest::qmlFiles());
+
+    engine.load(root);
     if (engine.rootObjects().isEmpty())
         return 1;
+    TrayController tray(engine, model);
+    if (options.window != "main"_L1)
+        shell.open(options.window);
     return QApplication::exec();
 }

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "FixtureApp.h"
+#include "Scene.h"
+
+#include <QImage>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QStringList>
+
+#include <memory>
+
+namespace quorvane::test {
+
+// The whole app on the fixture, as the shell builds it, for drawing one scene: the engine,
+// the shell's windows, and what went wrong on the way.
+class Stage
+{
+public:
+    explicit Stage(const Scene &scene);
+    ~Stage();
+
+    // Loads the shell, opens the scene's window, waits for it to draw, prepares and settles.
+    // False (see problems()) when any step failed or QML complained.
+    bool show();
+    [[nodiscard]] QImage grab();
+
+    [[nodiscard]] FixtureApp &app() { return *m_app; }
+    [[nodiscard]] QQmlApplicationEngine &engine() { return *m_engine; }
+    // The open window with that id ("main", "onboarding", ...), or null.
+    [[nodiscard]] QQuickWindow *window(const QString &id) const;
+    [[nodiscard]] QQuickWindow *window() const { return window(m_scene.window); }
+    // The first object with that name in the scene's window, or null.
+    [[nodiscard]] QObject *find(const QString &objectName) const;
+    // Sets a property of a named object; a problem when either is missing.
+    void set(const QString &objectName, const char *property, const QVariant &value);
+    // Lets timers, bindings and the network fixture run for a while.
+    static void wait(int ms);
+    void problem(const QString &text) { m_problems.append(text); }
+    [[nodiscard]] const QStringList &problems() const { return m_problems; }
+
+private:
+    bool waitForFrame(QQuickWindow *window);
+
+    Scene m_scene;
+    std::unique_ptr<FixtureApp> m_app;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QStringList m_problems;
+};
+
+} // namespace quorvane::test
