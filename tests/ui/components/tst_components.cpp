@@ -1,14 +1,12 @@
-// The shared QML pieces in a window of their own: the loading skeleton, the banner's
-// buttons and keys, and the tinted icons.
+// The shared QML pieces in a window of their own: the loading skeleton and the banner's
+// tinted icons.
 #include "IconProvider.h"
+#include "ui/components/ItemLookup.h"
 
 #include <QQmlApplicationEngine>
-#include <QQmlContext>
-#include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickStyle>
 #include <QQuickWindow>
-#include <QSignalSpy>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -17,6 +15,7 @@ Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;
+using namespace quorvane::test;
 
 namespace {
 
@@ -39,30 +38,14 @@ struct Host {
             window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
         exposed = window && QTest::qWaitForWindowExposed(window);
     }
-    [[nodiscard]] QQuickItem *item(const QString &name) const { return find(window->contentItem(), name); }
-    static QQuickItem *find(QQuickItem *under, const QString &name)
+    [[nodiscard]] QQuickItem *item(const QString &name) const
     {
-        if (!under || under->objectName() == name)
-            return under;
-        for (QQuickItem *child : under->childItems()) {
-            if (QQuickItem *found = find(child, name))
-                return found;
-        }
-        return nullptr;
+        return ItemLookup::find(window->contentItem(), name);
     }
     [[nodiscard]] QVariant eval(const QString &name, const QString &expression) const
     {
-        QQmlExpression e(qmlContext(item(name)), item(name), expression);
-        return e.evaluate();
+        return ItemLookup::eval(item(name), expression);
     }
-    void click(const QString &name) const
-    {
-        QQuickItem *target = item(name);
-        QVERIFY2(target, qPrintable(name));
-        QTest::mouseClick(window, Qt::LeftButton, {},
-                          target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint());
-    }
-
     QQmlApplicationEngine engine;
     QQuickWindow *window = nullptr;
     bool exposed = false;
@@ -132,37 +115,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!skeleton->property("animating").toBool());
     }
 
-    void bannerButtons_data()
-    {
-        QTest::addColumn<bool>("retry");
-        QTest::newRow("with retry") << true;
-        QTest::newRow("without retry") << false;
-    }
-    void bannerButtons()
-    {
-        QFETCH(bool, retry);
-        Host host("BannerView { objectName: 'banner'; width: 600; message: 'Something failed'; kind: AppModel.Error;"
-                  " showRetry: "
-                  + QByteArray(retry ? "true" : "false") + " }");
-        READY(host);
-        QObject *banner = host.item(u"banner"_s);
-        QSignalSpy retried(banner, SIGNAL(retry()));
-        QSignalSpy dismissed(banner, SIGNAL(dismiss()));
-        QCOMPARE(host.item(u"bannerRetry"_s)->isVisible(), retry);
-        QVERIFY(host.item(u"bannerClose"_s)->isVisible());
-        QCOMPARE(host.eval(u"bannerClose"_s, u"Accessible.name"_s).toString(), u"Close"_s);
-
-        QTest::keyClick(host.window, Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(retried.size(), retry ? 1 : 0);
-        if (retry) {
-            host.click(u"bannerRetry"_s);
-            QCOMPARE(retried.size(), 2);
-        }
-        host.click(u"bannerClose"_s);
-        QCOMPARE(dismissed.size(), 1);
-        QCOMPARE(host.eval(u"bannerMessage"_s, u"textFormat"_s).toInt(), int(Qt::PlainText));
-    }
-
     void bannerKinds_data()
     {
         QTest::addColumn<QByteArray>("kind");
@@ -197,15 +149,6 @@ private Q_SLOTS:
         QVERIFY2(tinted, "no pixel of the icon in its tint");
     }
 
-    void emptyPanel()
-    {
-        Host host("EmptyPanel { objectName: 'panel'; anchors.fill: parent; title: 'No polls yet';"
-                  " symbol: 'chart.bar.doc.horizontal'\n Button { objectName: 'action'; text: 'Create a Poll' } }");
-        READY(host);
-        QVERIFY(host.item(u"action"_s)->isVisible());
-        QCOMPARE(host.item(u"emptyTitle"_s)->property("text").toString(), u"No polls yet"_s);
-        QVERIFY(host.warnings.isEmpty());
-    }
 };
 
 QTEST_MAIN(TestComponents)

@@ -3,10 +3,9 @@
 #include "FixtureApp.h"
 #include "IconProvider.h"
 #include "Keychain.h"
+#include "ui/components/ItemLookup.h"
 
 #include <QQmlApplicationEngine>
-#include <QQmlContext>
-#include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickStyle>
 #include <QQuickWindow>
@@ -25,6 +24,7 @@ Q_IMPORT_QML_PLUGIN(Quorvane_MainPlugin)
 using namespace Qt::StringLiterals;
 using namespace quorvane;
 using test::FixtureApp;
+namespace ItemLookup = quorvane::test::ItemLookup;
 
 Q_DECLARE_METATYPE(quorvane::test::FixtureApp::State)
 
@@ -53,39 +53,20 @@ struct WindowRig {
         }
     }
 
-    // Searched through the visual tree, where delegates of repeaters live too.
-    [[nodiscard]] QQuickItem *item(const QString &name) const { return find(window->contentItem(), name); }
-    [[nodiscard]] static QQuickItem *find(QQuickItem *under, const QString &name)
+    [[nodiscard]] QQuickItem *item(const QString &name) const
     {
-        if (!under || under->objectName() == name)
-            return under;
-        for (QQuickItem *child : under->childItems()) {
-            if (QQuickItem *found = find(child, name))
-                return found;
-        }
-        return nullptr;
+        return ItemLookup::find(window->contentItem(), name);
     }
-    // Shown on screen: it and every parent visible and not faded out.
-    [[nodiscard]] bool shown(const QString &name) const
-    {
-        const QQuickItem *found = item(name);
-        for (const QQuickItem *at = found; at; at = at->parentItem()) {
-            if (!at->isVisible() || at->opacity() <= 0)
-                return false;
-        }
-        return found != nullptr;
-    }
+    [[nodiscard]] bool shown(const QString &name) const { return ItemLookup::shown(item(name)); }
     void click(const QString &name, Qt::KeyboardModifiers modifiers = {}) const
     {
         QQuickItem *target = item(name);
         QVERIFY2(target, qPrintable(name));
-        const QPointF centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
-        QTest::mouseClick(window, Qt::LeftButton, modifiers, centre.toPoint());
+        ItemLookup::click(window, target, modifiers);
     }
     [[nodiscard]] QVariant eval(const QString &name, const QString &expression) const
     {
-        QQmlExpression e(qmlContext(item(name)), item(name), expression);
-        return e.evaluate();
+        return ItemLookup::eval(item(name), expression);
     }
     // Refreshes started since the window opened.
     [[nodiscard]] int refreshes() const { return starts; }
@@ -142,6 +123,10 @@ private Q_SLOTS:
         QVERIFY(rig.shown(u"bannerClose"_s));
         QCOMPARE(rig.item(u"bannerIcon"_s)->property("name").toString(), icon);
         QCOMPARE(rig.item(u"bannerMessage"_s)->property("text").toString(), rig.app.model().banner()->message);
+        // Without a retry button its key does nothing either.
+        QTest::keyClick(rig.window, Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(rig.refreshes(), retry ? 1 : 0);
+        QTRY_VERIFY(!rig.app.model().loading());
         QVERIFY(!rig.app.model().banner()->message.isEmpty());
     }
 
@@ -265,7 +250,7 @@ private Q_SLOTS:
         WindowRig rig(FixtureApp::State::withData);
         READY(rig);
         const auto badge = [&rig](const QString &section) {
-            return WindowRig::find(rig.item(u"sectionRow_"_s + section), u"badge"_s);
+            return ItemLookup::find(rig.item(u"sectionRow_"_s + section), u"badge"_s);
         };
         QVERIFY(badge(u"today"_s)->isVisible());
         QCOMPARE(badge(u"today"_s)->property("text").toString(), QString::number(rig.app.model().today().size()));
@@ -318,25 +303,6 @@ private Q_SLOTS:
         QCOMPARE(rig.eval(u"refreshButton"_s, u"icon.source.toString()"_s).toString(), QString());
     }
 
-    void noComplaints_data()
-    {
-        QTest::addColumn<FixtureApp::State>("state");
-        for (const auto state : {FixtureApp::State::withData, FixtureApp::State::signedOut, FixtureApp::State::offline,
-                                 FixtureApp::State::errorBanner, FixtureApp::State::toast, FixtureApp::State::loading})
-            QTest::newRow(FixtureApp::name(state)) << state;
-    }
-    // Every state draws without a QML warning, through every section.
-    void noComplaints()
-    {
-        QFETCH(FixtureApp::State, state);
-        WindowRig rig(state);
-        READY(rig);
-        for (const AppSection section : Section::allCases()) {
-            rig.app.model().setSection(section);
-            QTest::qWait(20);
-        }
-        QVERIFY2(rig.warnings.isEmpty(), qPrintable(rig.warnings.join(u'\n')));
-    }
 };
 
 QTEST_MAIN(TestMainWindow)
