@@ -23,6 +23,7 @@
 #include <QDBusConnection>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QIcon>
 #include <QLocale>
 #include <QNetworkAccessManager>
 #include <QQmlApplicationEngine>
@@ -45,6 +46,7 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(u"Quorvane"_s);
     QApplication::setOrganizationName(u"Quorvane"_s);
     QApplication::setDesktopFileName(u"com.peldrachen.quorvane"_s);
+    QApplication::setWindowIcon(QIcon::fromTheme(u"com.peldrachen.quorvane"_s)); // installed by packaging/
     QApplication::setQuitOnLastWindowClosed(false); // the tray keeps the app alive
     QQuickStyle::setStyle(u"Fusion"_s);
 
