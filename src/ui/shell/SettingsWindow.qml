@@ -1,21 +1,22 @@
 import QtQuick
 import QtQuick.Controls
-import Quorvane.Components
 
-// The app's settings: account, notifications, the tray, the server.
+// The app's settings: account, notifications, the tray, the server. The view comes from the
+// module Quorvane.Settings once it exists and sets the window's size.
 ApplicationWindow {
     id: window
 
     objectName: "settings"
     title: qsTr("Settings")
-    width: 620
-    height: 460
-    minimumWidth: 480
-    minimumHeight: 360
+    width: hook.provided ? hook.implicitWidth : 620
+    height: hook.provided ? hook.implicitHeight : 460
+    minimumWidth: hook.provided ? hook.implicitWidth : 480
+    minimumHeight: hook.provided ? hook.implicitHeight : 360
 
-    EmptyPanel {
-        objectName: "placeholder"
+    ViewHook {
+        id: hook
         anchors.fill: parent
+        source: "qrc:/qt/qml/Quorvane/Settings/SettingsView.qml"
         title: qsTr("Settings")
         symbol: "gearshape"
         description: qsTr("Settings aren't available in this version yet.")

@@ -1,8 +1,8 @@
 import QtQuick
 import QtQuick.Controls
-import Quorvane.Components
 
-// "Share Times": picks a few open times and copies them as a message.
+// "Share Times": picks a few open times and copies them as a message. The view comes from
+// the module Quorvane.Share once it exists; the window can shrink to the view's own size.
 ApplicationWindow {
     id: window
 
@@ -10,12 +10,13 @@ ApplicationWindow {
     title: qsTr("Share Times")
     width: 560
     height: 560
-    minimumWidth: 420
-    minimumHeight: 360
+    minimumWidth: hook.provided ? Math.min(hook.implicitWidth, 560) : 420
+    minimumHeight: hook.provided ? Math.min(hook.implicitHeight, 560) : 360
 
-    EmptyPanel {
-        objectName: "placeholder"
+    ViewHook {
+        id: hook
         anchors.fill: parent
+        source: "qrc:/qt/qml/Quorvane/Share/QuickShareView.qml"
         title: qsTr("Share Times")
         symbol: "paperplane"
         description: qsTr("Picking and sharing open times isn't available in this version yet.")
