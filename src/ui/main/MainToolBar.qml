@@ -90,7 +90,8 @@ ToolBar {
                 width: 18
                 height: 18
                 padding: 0
-                running: App.loading
+                // Spins only where it can be seen: a hidden window costs no CPU.
+                running: App.loading && root.Window.window !== null && root.Window.window.visible
                 visible: App.loading
             }
             // The spinner stands in for the symbol while a refresh runs.
