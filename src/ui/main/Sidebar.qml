@@ -51,7 +51,10 @@ Rectangle {
                         Layout.fillWidth: true
                         Layout.leftMargin: 8
                         Layout.rightMargin: 8
-                        onActivated: section => App.section = section
+                        onActivated: section => {
+                            App.section = section
+                            list.forceActiveFocus() // the arrow keys walk on from here
+                        }
                     }
                 }
 

@@ -240,6 +240,13 @@ private Q_SLOTS:
         QVERIFY(!rig.item(u"sectionRow_today"_s)->property("highlighted").toBool());
         QCOMPARE(rig.eval(u"sectionRow_polls"_s, u"Accessible.description"_s).toString(), u"Shortcut Ctrl+5"_s);
 
+        QTest::keyClick(rig.window, Qt::Key_Down);
+        QCOMPARE(model.section(), AppSection::types);
+        QTest::keyClick(rig.window, Qt::Key_Up);
+        QTest::keyClick(rig.window, Qt::Key_Up);
+        QTest::keyClick(rig.window, Qt::Key_Up);
+        QCOMPARE(model.section(), AppSection::today); // the first row stays the first
+
         rig.click(u"sectionRow_insights"_s);
         QCOMPARE(rig.item(u"sectionPlaceholder"_s)->property("title").toString(), u"Insights"_s);
         QCOMPARE(rig.item(u"sectionPlaceholder"_s)->property("symbol").toString(), u"chart.xyaxis.line"_s);
