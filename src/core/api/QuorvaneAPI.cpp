@@ -80,9 +80,9 @@ HTTPRequest prepare(const QUrl &url, const QByteArray &method, const std::option
                     const QString &token)
 {
     QNetworkRequest request(url);
-    // Nothing is written to a local cache, and the transport's manager has none to read.
-    // (AlwaysNetwork would do the same but adds Cache-Control and Pragma to the request.)
-    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+    // No local cache: the transport's manager has none, so nothing is read from or written to
+    // one. (AlwaysNetwork would add Cache-Control and Pragma to the request; and the
+    // save-control attribute races with redirects inside Qt 6.4's reply.)
     request.setTransferTimeout(20'000);
     // Qt would carry the Authorization header along to wherever a redirect points.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
