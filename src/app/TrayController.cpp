@@ -27,18 +27,24 @@ TrayController::~TrayController()
     delete m_popover;
 }
 
-QQuickWindow *TrayController::ensurePopover()
+QQuickWindow *TrayController::createPopover(QQmlEngine &engine)
 {
-    if (m_popover)
-        return m_popover;
-    QQmlComponent component(&m_engine, QUrl(u"qrc:/qt/qml/Quorvane/MenuBar/MenuBarPopover.qml"_s));
+    QQmlComponent component(&engine, QUrl(u"qrc:/qt/qml/Quorvane/MenuBar/MenuBarPopover.qml"_s));
     QObject *made = component.create();
-    m_popover = qobject_cast<QQuickWindow *>(made);
-    if (!m_popover) {
+    auto *window = qobject_cast<QQuickWindow *>(made);
+    if (!window) {
         delete made;
         return nullptr;
     }
-    QQmlEngine::setObjectOwnership(m_popover, QQmlEngine::CppOwnership);
+    window->setObjectName(u"popover"_s);
+    QQmlEngine::setObjectOwnership(window, QQmlEngine::CppOwnership);
+    return window;
+}
+
+QQuickWindow *TrayController::ensurePopover()
+{
+    if (!m_popover)
+        m_popover = createPopover(m_engine);
     return m_popover;
 }
 

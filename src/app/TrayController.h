@@ -29,6 +29,10 @@ public:
     // Made at the first click, so a session that never opens it doesn't pay for it.
     [[nodiscard]] QQuickWindow *popover() const { return m_popover; }
 
+    // A new popover window on that engine, hidden, owned by the caller; null (with the engine's
+    // warnings) when its QML fails to load. The screenshot renderer draws it the same way.
+    [[nodiscard]] static QQuickWindow *createPopover(QQmlEngine &engine);
+
     void togglePopover(const QRect &iconGeometry);
     void openPopover(const QRect &iconGeometry);
 

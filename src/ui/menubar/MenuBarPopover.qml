@@ -74,15 +74,13 @@ Window {
             visible: !bar.showsSignIn
             spacing: 12
 
-            BannerView {
+            // Failures only: a toast shows as the green line further down.
+            BannerHost {
                 objectName: "popoverBanner"
                 Layout.fillWidth: true
-                visible: bar.showsBanner
-                message: App.bannerMessage
-                kind: App.bannerKind
-                showRetry: App.bannerRetry
-                onRetry: App.refreshNow()
-                onDismiss: App.dismissBanner()
+                shown: bar.showsBanner
+                padding: 0
+                visible: implicitHeight > 0
             }
 
             NextMeetingCard {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Quorvane.App
 
 // One page of the first-run guide: a column at the top of the page, visible while its step is
 // the current one, fading in and out as the step changes.
@@ -15,8 +16,8 @@ Item {
 
     Behavior on opacity {
         NumberAnimation {
-            duration: 280
-            easing.type: Easing.OutCubic
+            duration: Motion.springDuration(0.5, 1.0)
+            easing: Motion.spring(0.5, 1.0)
         }
     }
 

@@ -1,8 +1,9 @@
-// The shared view pieces' logic: booking status pills, skeleton bars, hex colours, and the
-// icon table with its tinting provider.
+// The shared view pieces' logic: booking status pills, skeleton bars, hex colours, springs,
+// and the icon table with its tinting provider.
 #include "AppSection.h"
 #include "HexColor.h"
 #include "IconProvider.h"
+#include "Motion.h"
 #include "Skeleton.h"
 #include "StatusLabel.h"
 #include "Symbols.h"
@@ -229,6 +230,51 @@ private Q_SLOTS:
         QVERIFY(ink.allTinted);
     }
 
+    void springs_data()
+    {
+        QTest::addColumn<double>("response");
+        QTest::addColumn<double>("damping");
+        QTest::newRow("banner, no overshoot") << 0.5 << 1.0;
+        QTest::newRow("toast, a little bounce") << 0.5 << 0.85;
+        QTest::newRow("section switch, quick") << 0.18 << 0.85;
+    }
+    void springs()
+    {
+        QFETCH(double, response);
+        QFETCH(double, damping);
+        const int duration = Motion::springDuration(response, damping);
+        // A spring with that response rests within about its own period, not at once, not later.
+        QVERIFY2(duration > response * 1000 * 0.6 && duration < response * 1000 * 2.5, qPrintable(QString::number(duration)));
+        for (int ms = duration; ms < duration * 3; ms += 7)
+            QVERIFY(qAbs(1 - Motion::springPosition(response, damping, ms / 1000.0)) < 0.005);
+
+        const QEasingCurve curve = Motion::spring(response, damping);
+        QCOMPARE(curve.valueForProgress(0), 0.0);
+        QCOMPARE(curve.valueForProgress(1), 1.0);
+        double highest = 0;
+        double previous = 0;
+        bool monotonic = true;
+        for (int i = 1; i <= 100; ++i) {
+            const double p = i / 100.0;
+            const double value = curve.valueForProgress(p);
+            const double exact = Motion::springPosition(response, damping, p * duration / 1000.0);
+            QVERIFY2(qAbs(value - exact) < 0.01, qPrintable(u"%1 at %2, spring says %3"_s.arg(value).arg(p).arg(exact)));
+            highest = std::max(highest, value);
+            monotonic = monotonic && value >= previous - 1e-9;
+            previous = value;
+        }
+        // Damping 1 comes to rest without passing the target; less than 1 passes it once.
+        QCOMPARE(monotonic, damping >= 1);
+        QCOMPARE(highest > 1.001, damping < 1);
+    }
+
+    void springFromNonsense()
+    {
+        // Bad numbers from a screen fall back to a plain, finite spring instead of NaN motion.
+        QCOMPARE(Motion::springDuration(0, 1), Motion::springDuration(0.5, 1));
+        QCOMPARE(Motion::springDuration(qQNaN(), -2), Motion::springDuration(0.5, 1));
+        QVERIFY(qIsFinite(Motion::spring(qInf(), 0.5).valueForProgress(0.5)));
+    }
 };
 
 QTEST_MAIN(TestViewPieces)

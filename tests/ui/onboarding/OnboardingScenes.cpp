@@ -19,7 +19,7 @@ std::function<void(Stage &)> press(const QStringList &buttons)
             QObject *button = stage.find(name);
             if (!button || !QMetaObject::invokeMethod(button, "clicked"))
                 stage.problem(u"no button \"%1\" to press"_s.arg(name));
-            Stage::wait(350); // the step's fade
+            Stage::wait(650); // the step's fade
         }
     };
 }

@@ -1,6 +1,7 @@
 #include "Stage.h"
 
 #include "IconProvider.h"
+#include "TrayController.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -54,6 +55,7 @@ Stage::Stage(const Scene &scene)
 Stage::~Stage()
 {
     // Windows first, while the model they bind to still exists.
+    delete m_popover;
     m_engine.reset();
 }
 
@@ -64,7 +66,14 @@ bool Stage::show()
         m_problems.append(u"the shell did not load"_s);
         return false;
     }
-    m_app->shell().open(m_scene.window);
+    if (m_scene.window == "popover"_L1) {
+        // The tray's popover isn't one of the shell's windows: it is made as the tray makes it.
+        m_popover = quorvane::TrayController::createPopover(*m_engine);
+        if (m_popover)
+            m_popover->show();
+    } else {
+        m_app->shell().open(m_scene.window);
+    }
     QQuickWindow *shown = window();
     if (!shown) {
         m_problems.append(u"no window \"%1\""_s.arg(m_scene.window));

@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QQmlApplicationEngine>
+#include <QPointer>
 #include <QQuickWindow>
 #include <QStringList>
 
@@ -45,6 +46,7 @@ private:
     Scene m_scene;
     std::unique_ptr<FixtureApp> m_app;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QPointer<QQuickWindow> m_popover; // the tray popover, for its scenes
     QStringList m_problems;
 };
 
