@@ -75,7 +75,7 @@ bool ModelRig::ready(QString *why)
     return true;
 }
 
-std::unique_ptr<AppModel> ModelRig::makeModel()
+AppEnvironment ModelRig::environment()
 {
     AppEnvironment env;
     env.clock = &clock;
@@ -89,7 +89,7 @@ std::unique_ptr<AppModel> ModelRig::makeModel()
     env.locale = u"en_US"_s;
     env.zone = u"America/New_York"_s;
     env.timings = timings;
-    return std::make_unique<AppModel>(env);
+    return env;
 }
 
 void ModelRig::setNow(const Instant &at)

@@ -61,8 +61,10 @@ public:
 
     // False with a reason when a part of the rig could not start.
     [[nodiscard]] bool ready(QString *why);
-    // A model on the rig's folders; a second one acts as a restart.
-    [[nodiscard]] std::unique_ptr<AppModel> makeModel();
+    // The services of a model on the rig's folders, and such a model; a second one acts as a
+    // restart.
+    [[nodiscard]] AppEnvironment environment();
+    [[nodiscard]] std::unique_ptr<AppModel> makeModel() { return std::make_unique<AppModel>(environment()); }
 
     void setNow(const Instant &at);
     void advance(qint64 seconds);

@@ -1,3 +1,5 @@
+// The application model's commands against the sandbox: the debounced settings save,
+// one-shot commands with their banners and toasts, links, messages and reminders.
 #include "ModelRig.h"
 
 #include "Formats.h"
@@ -46,11 +48,7 @@ private Q_SLOTS:
         const int putsBefore = rig->transport->count("PUT", u"/sync/settings"_s);
         model->editSettings([](HostSettings &s) { s.maxMeetingsPerDay = 7; });
         QTest::qWait(100);
-        model->editSettings([](HostSettings &s) { s.minNoticeMinutes = 120; });
-        QTest::qWait(100);
         model->editSettings([](HostSettings &s) { s.horizonDays = 21; });
-        QTest::qWait(100);
-        model->editSettings([](HostSettings &s) { s.alertMinutesBefore = 15; });
         QTest::qWait(100);
         model->editSettings([](HostSettings &s) { s.addMeet = false; });
         QCOMPARE(model->draftSettings()->maxMeetingsPerDay, 7); // the screens see edits at once
@@ -58,13 +56,8 @@ private Q_SLOTS:
 
         QTRY_COMPARE(rig->transport->count("PUT", u"/sync/settings"_s), putsBefore + 1);
         QTRY_VERIFY(!model->saving());
-        const SentRequest put = rig->transport->sent.last();
-        const HostSettings sent = JSON::decode<HostSettings>(put.body).value();
-        QCOMPARE(sent.maxMeetingsPerDay, 7);
-        QCOMPARE(sent.minNoticeMinutes, 120);
-        QCOMPARE(sent.horizonDays, 21);
-        QCOMPARE(sent.alertMinutesBefore, 15);
-        QVERIFY(!sent.addMeet);
+        const HostSettings sent = JSON::decode<HostSettings>(rig->transport->sent.last().body).value();
+        QVERIFY(sent.maxMeetingsPerDay == 7 && sent.horizonDays == 21 && !sent.addMeet);
         QCOMPARE(rig->server.sandbox().backend().settings().horizonDays, 21);
         QCOMPARE(model->snapshot().settings->horizonDays, 21);
         QTest::qWait(1000);
@@ -147,7 +140,6 @@ private Q_SLOTS:
         QCOMPARE(model->rescheduleText(b),
                  u"Hi , I need to move our meeting on %1. Could you pick a new time here? %2\n"
                  u"I'll cancel the original once you've rebooked. Thanks!"_s.arg(date, model->pageLink()));
-        QVERIFY(date.startsWith(u"Tuesday, Mar 10"_s) || date.contains(u"day"_s));
     }
 
     void joinOpensOnlyWebLinks()

@@ -36,15 +36,11 @@ private Q_SLOTS:
     void parses()
     {
         QFETCH(QStringList, arguments);
-        QFETCH(QString, window);
-        QFETCH(QString, server);
-        QFETCH(bool, selfTest);
-
         const LaunchOptions options = LaunchOptions::parse(QStringList{u"quorvane"_s} + arguments);
         QVERIFY2(!options.exitCode, qPrintable(options.message));
-        QCOMPARE(options.window, window);
-        QCOMPARE(options.server.value_or(QString()), server);
-        QCOMPARE(options.selfTest, selfTest);
+        QTEST(options.window, "window");
+        QTEST(options.server.value_or(QString()), "server");
+        QTEST(options.selfTest, "selfTest");
     }
 
     void stops_data()
@@ -71,12 +67,10 @@ private Q_SLOTS:
     void stops()
     {
         QFETCH(QStringList, arguments);
-        QFETCH(int, exitCode);
         QFETCH(QString, messageHas);
-
         const LaunchOptions options = LaunchOptions::parse(QStringList{u"quorvane"_s} + arguments);
         QVERIFY(options.exitCode.has_value());
-        QCOMPARE(*options.exitCode, exitCode);
+        QTEST(*options.exitCode, "exitCode");
         QVERIFY2(options.message.contains(messageHas), qPrintable(options.message));
     }
 };

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "IconProvider.h"
+
 #include <QPointF>
+#include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QQuickItem>
@@ -11,6 +14,28 @@
 // through the visual tree (where repeater delegates live too), clicks in their middle, and
 // attached properties read through QML itself.
 namespace quorvane::test::ItemLookup {
+
+// An engine with the app's modules and icons that keeps every QML complaint.
+struct Engine : QQmlApplicationEngine {
+    Engine()
+    {
+        addImportPath(QStringLiteral("qrc:/qt/qml"));
+        addImageProvider(QStringLiteral("icon"), new IconProvider);
+        connect(this, &QQmlEngine::warnings, this, [this](const QList<QQmlError> &list) {
+            for (const QQmlError &w : list)
+                warnings.append(w.toString());
+        });
+    }
+    // The first root object as a window, shown and exposed; null if it didn't load or show.
+    [[nodiscard]] QQuickWindow *shownWindow()
+    {
+        auto *window = rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(rootObjects().constFirst());
+        if (window)
+            window->show();
+        return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
+    }
+    QStringList warnings;
+};
 
 inline QQuickItem *find(QQuickItem *under, const QString &name)
 {

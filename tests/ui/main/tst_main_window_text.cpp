@@ -26,7 +26,6 @@ private Q_SLOTS:
         const std::optional<Instant> never;
         const QString us = u"en_US"_s, ny = u"America/New_York"_s;
         QTest::newRow("offline wins over saving") << true << true << at << us << ny << u"Offline"_s;
-        QTest::newRow("offline without a refresh") << true << false << never << us << ny << u"Offline"_s;
         QTest::newRow("saving wins over the time") << false << true << at << us << ny << u"Saving…"_s;
         QTest::newRow("updated, in the user's zone and 12-hour clock")
             << false << false << at << us << ny << u"Updated 9:40\u202FAM"_s;
@@ -45,42 +44,31 @@ private Q_SLOTS:
         QCOMPARE(MainWindowText::subtitle(offline, saving, lastRefresh, locale, zone), expected);
     }
 
-    void initials_data()
+    // The footer's initials and name, from the account's name as typed.
+    void account_data()
     {
         QTest::addColumn<std::optional<QString>>("name");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("two words") << std::optional<QString>(u"Ilse Varga"_s) << u"IV"_s;
-        QTest::newRow("one word") << std::optional<QString>(u"Ilse"_s) << u"I"_s;
-        QTest::newRow("three words give two") << std::optional<QString>(u"Anna Maria Lopez"_s) << u"AM"_s;
-        QTest::newRow("no name") << std::optional<QString>() << u"?"_s;
-        QTest::newRow("case as typed, extra blanks dropped")
-            << std::optional<QString>(u"  ilse   van Varga "_s) << u"iv"_s;
-        QTest::newRow("blanks only") << std::optional<QString>(u"   "_s) << QString();
-        QTest::newRow("empty name") << std::optional<QString>(QString()) << QString();
-        QTest::newRow("accent written with a combining mark is one character")
-            << std::optional<QString>(u"E\u0301mile Zola"_s) << u"\u00C9Z"_s;
-        QTest::newRow("an emoji is one character")
-            << std::optional<QString>(u"\U0001F469\u200D\U0001F4BB Dev"_s) << u"\U0001F469\u200D\U0001F4BBD"_s;
+        QTest::addColumn<QString>("initials");
+        QTest::addColumn<QString>("shown");
+        const auto named = [](const QString &name, const QString &initials) {
+            QTest::newRow(qPrintable(name)) << std::optional<QString>(name) << initials << name;
+        };
+        named(u"Ilse Varga"_s, u"IV"_s);
+        named(u"Ilse"_s, u"I"_s);
+        named(u"Anna Maria Lopez"_s, u"AM"_s);
+        named(u"  ilse   van Varga "_s, u"iv"_s); // case as typed, extra blanks dropped
+        named(u"   "_s, QString());
+        named(u"E\u0301mile Zola"_s, u"\u00C9Z"_s); // an accent written with a combining mark
+        named(u"\U0001F469\u200D\U0001F4BB Dev"_s, u"\U0001F469\u200D\U0001F4BBD"_s); // one emoji
+        QTest::newRow("no name") << std::optional<QString>() << u"?"_s << u"Not signed in"_s;
     }
-    void initials()
+    void account()
     {
         QFETCH(std::optional<QString>, name);
-        QFETCH(QString, expected);
-        QCOMPARE(MainWindowText::initials(name), expected);
-    }
-
-    void accountName_data()
-    {
-        QTest::addColumn<std::optional<QString>>("name");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("named") << std::optional<QString>(u"Ilse Varga"_s) << u"Ilse Varga"_s;
-        QTest::newRow("no name") << std::optional<QString>() << u"Not signed in"_s;
-    }
-    void accountName()
-    {
-        QFETCH(std::optional<QString>, name);
-        QFETCH(QString, expected);
-        QCOMPARE(MainWindowText::accountName(name), expected);
+        QFETCH(QString, initials);
+        QFETCH(QString, shown);
+        QCOMPARE(MainWindowText::initials(name), initials);
+        QCOMPARE(MainWindowText::accountName(name), shown);
     }
 
     void footerStatus_data()

@@ -1,3 +1,5 @@
+// The tray's logic: which parts the popover shows, the icon's countdown and tooltip, and
+// where the popover opens beside the icon or the pointer.
 #include "PopoverContent.h"
 #include "PopoverPlacement.h"
 #include "TrayText.h"
@@ -29,9 +31,7 @@ private Q_SLOTS:
         const Banner offline{u"Offline"_s, Banner::Kind::offline, true};
         const Banner toast{u"Copied link for Intro"_s, Banner::Kind::info, false};
         QTest::newRow("signed in") << false << true << std::optional<Banner>() << PopoverContent{};
-        QTest::newRow("signed out, nothing cached") << true << false << std::optional<Banner>()
-                                                    << PopoverContent{.signIn = true};
-        QTest::newRow("signed out, nothing cached, a banner stays away")
+        QTest::newRow("signed out, nothing cached: a banner stays away")
             << true << false << std::optional<Banner>(error) << PopoverContent{.signIn = true};
         QTest::newRow("token revoked, account still cached")
             << true << true << std::optional<Banner>(error) << PopoverContent{.banner = true};
@@ -45,46 +45,37 @@ private Q_SLOTS:
         QFETCH(bool, hasAccount);
         QFETCH(std::optional<Banner>, banner);
         QFETCH(PopoverContent, expected);
-        const PopoverContent got = PopoverContent::select(needsSignIn, hasAccount, banner);
-        QCOMPARE(got.signIn, expected.signIn);
-        QCOMPARE(got.banner, expected.banner);
-        QCOMPARE(got.toast, expected.toast);
+        QVERIFY(PopoverContent::select(needsSignIn, hasAccount, banner) == expected);
     }
 
+    // The icon rounds up like the tooltip's countdown, so the two agree.
     void trayText_data()
     {
         QTest::addColumn<bool>("showsNext");
-        QTest::addColumn<int>("startIn");
-        QTest::addColumn<int>("endIn");
+        QTest::addColumn<int>("startIn"); // the next booking ends half an hour after it starts
         QTest::addColumn<QString>("toolTip");
         QTest::addColumn<QString>("iconText");
-        QTest::newRow("running") << true << -300 << 1500 << u"Now: Ann"_s << u"now"_s;
-        QTest::newRow("starts this second") << true << 0 << 1800 << u"Now: Ann"_s << u"now"_s;
-        QTest::newRow("59 minutes") << true << 3540 << 5000 << u"Ann in 59m"_s << u"59m"_s;
-        QTest::newRow("just over 59 minutes rounds up") << true << 3541 << 5000 << u"Ann in 1h"_s << u"1h"_s;
-        QTest::newRow("an hour and a half") << true << 5400 << 7200 << u"Ann in 1h 30m"_s << u"1h"_s;
-        QTest::newRow("exactly at the horizon") << true << 28800 << 30600 << u"Ann in 8h"_s << u"8h"_s;
-        QTest::newRow("past the horizon") << true << 28801 << 30600 << u"Quorvane"_s << QString();
-        QTest::newRow("ended") << true << -1800 << -1 << u"Quorvane"_s << QString();
-        QTest::newRow("turned off, a minute away") << false << 60 << 1800 << u"Quorvane"_s << QString();
+        QTest::newRow("running") << true << -300 << u"Now: Ann"_s << u"now"_s;
+        QTest::newRow("starts this second") << true << 0 << u"Now: Ann"_s << u"now"_s;
+        QTest::newRow("59 minutes") << true << 3540 << u"Ann in 59m"_s << u"59m"_s;
+        QTest::newRow("just over 59 minutes rounds up") << true << 3541 << u"Ann in 1h"_s << u"1h"_s;
+        QTest::newRow("an hour and a half") << true << 5400 << u"Ann in 1h 30m"_s << u"1h"_s;
+        QTest::newRow("exactly at the horizon") << true << 28800 << u"Ann in 8h"_s << u"8h"_s;
+        QTest::newRow("past the horizon") << true << 28801 << u"Quorvane"_s << QString();
+        QTest::newRow("ended") << true << -1801 << u"Quorvane"_s << QString();
+        QTest::newRow("turned off, a minute away") << false << 60 << u"Quorvane"_s << QString();
     }
     void trayText()
     {
         QFETCH(bool, showsNext);
         QFETCH(int, startIn);
-        QFETCH(int, endIn);
-        QFETCH(QString, toolTip);
-        QFETCH(QString, iconText);
         Booking next;
         next.name = u"Ann Lee"_s;
         next.start = now.addSecs(startIn);
-        next.end = now.addSecs(endIn);
-        QCOMPARE(TrayText::toolTip(TrayText::title(next, now, showsNext)), toolTip);
-        QCOMPARE(TrayText::iconText(next, now, showsNext), iconText);
-    }
-
-    void nothingNext()
-    {
+        next.end = next.start.addSecs(1800);
+        QTEST(TrayText::toolTip(TrayText::title(next, now, showsNext)), "toolTip");
+        QTEST(TrayText::iconText(next, now, showsNext), "iconText");
+        // Nothing next reads like nothing soon.
         QCOMPARE(TrayText::toolTip(TrayText::title(std::nullopt, now, true)), u"Quorvane"_s);
         QCOMPARE(TrayText::iconText(std::nullopt, now, true), QString());
     }
@@ -100,11 +91,9 @@ private Q_SLOTS:
         const QSize popover(340, 500);
         QTest::newRow("top panel, middle: centred below")
             << QRect(900, 0, 24, 24) << QPoint(910, 10) << popover << screen << QPoint(912 - 170, 24 + 6);
-        QTest::newRow("top panel, right corner: kept on screen")
-            << QRect(1890, 0, 24, 24) << QPoint(1900, 10) << popover << screen << QPoint(1920 - 340, 30);
         QTest::newRow("bottom panel, left corner: above, kept on screen")
             << QRect(4, 1050, 24, 30) << QPoint(10, 1060) << popover << screen << QPoint(0, 1050 - 6 - 500);
-        QTest::newRow("second screen to the right")
+        QTest::newRow("second screen to the right, kept on it")
             << QRect(3800, 0, 24, 24) << QPoint(3810, 10) << popover << QRect(1920, 0, 1920, 1080)
             << QPoint(3840 - 340, 30);
         // The tray said the corner, the click came from the right end of the top panel.
@@ -126,8 +115,7 @@ private Q_SLOTS:
         QFETCH(QPoint, cursor);
         QFETCH(QSize, popover);
         QFETCH(QRect, screen);
-        QFETCH(QPoint, expected);
-        QCOMPARE(PopoverPlacement::topLeft(icon, cursor, popover, screen), expected);
+        QTEST(PopoverPlacement::topLeft(icon, cursor, popover, screen), "expected");
     }
 };
 

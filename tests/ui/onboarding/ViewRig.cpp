@@ -51,22 +51,24 @@ void ViewRig::prepareProcess()
     });
 }
 
-bool ViewRig::ready(QString *why)
+bool ViewRig::ready()
 {
-    if (!m_window) {
-        *why = u"the QML didn't load: "_s + m_warnings.join(u'\n');
-        return false;
-    }
-    if (!QTest::qWaitForWindowExposed(m_window)) {
-        *why = u"the window was never shown"_s;
-        return false;
-    }
-    return true;
+    if (!m_window)
+        m_problem = u"the QML didn't load: "_s + m_warnings.join(u'\n');
+    else if (!QTest::qWaitForWindowExposed(m_window))
+        m_problem = u"the window was never shown"_s;
+    return m_problem.isEmpty();
 }
 
 QQuickItem *ViewRig::item(const QString &objectName) const
 {
     return m_window ? m_window->findChild<QQuickItem *>(objectName) : nullptr;
+}
+
+QString ViewRig::text(const QString &objectName) const
+{
+    const QQuickItem *found = item(objectName);
+    return found ? found->property("text").toString() : QString();
 }
 
 bool ViewRig::shown(const QQuickItem *item)

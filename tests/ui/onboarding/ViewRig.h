@@ -25,21 +25,28 @@ public:
     // Shell are the test's to register).
     static void prepareProcess();
 
-    // False with a reason when the QML didn't load or the window didn't show.
-    [[nodiscard]] bool ready(QString *why);
+    // False, with the reason in problem(), when the QML didn't load or the window didn't show.
+    [[nodiscard]] bool ready();
+    [[nodiscard]] const QString &problem() const { return m_problem; }
     [[nodiscard]] QQuickWindow *window() const { return m_window; }
-    // The item with that objectName, or null.
+    // The item with that objectName, or null; whether it is on screen; its text.
     [[nodiscard]] QQuickItem *item(const QString &objectName) const;
+    [[nodiscard]] bool shows(const QString &objectName) const { return shown(item(objectName)); }
+    [[nodiscard]] QString text(const QString &objectName) const;
     // Visible on screen: it and all its parents are visible and not transparent.
     [[nodiscard]] static bool shown(const QQuickItem *item);
     // A left click in the middle of the item.
     void click(QQuickItem *item) const;
+    void click(const QString &objectName) const { click(item(objectName)); }
 
     QQmlApplicationEngine engine;
 
 private:
     QQuickWindow *m_window = nullptr;
     QStringList m_warnings;
+    QString m_problem;
 };
+
+#define QVERIFY_READY(view) QVERIFY2((view).ready(), qPrintable((view).problem()))
 
 } // namespace quorvane::test

@@ -50,74 +50,65 @@ class OnboardingModelTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void notificationSwitch_data();
-    void notificationSwitch();
-    void aLaterChoiceOutlivesAnEarlierAnswer();
-    void comingBackReadsTheSystemAgain();
+    void notificationSwitch_data()
+    {
+        QTest::addColumn<bool>("server");
+        QTest::addColumn<bool>("choice");
+        QTest::addColumn<QList<bool>>("seen"); // the switch, from the window's appearance on
+        QTest::newRow("allowed") << true << true << QList<bool>{true, true, true};
+        QTest::newRow("no notification server: back to off") << false << true << QList<bool>{false, true, false};
+        QTest::newRow("turned off: no question asked") << true << false << QList<bool>{true, false};
+    }
+    void notificationSwitch()
+    {
+        QFETCH(bool, server);
+        QFETCH(bool, choice);
+        QFETCH(QList<bool>, seen);
+        Rig rig(server);
+        QVERIFY2(rig.ready(server), qPrintable(rig.bus.error()));
+        OnboardingModel &guide = *rig.guide;
+        QVERIFY(!guide.notif());
+        QList<bool> shown;
+        connect(&guide, &OnboardingModel::notifChanged, this, [&] { shown.append(guide.notif()); });
+        guide.appear();
+        QTRY_COMPARE(shown.size(), 1);
+        guide.setNotif(choice);
+        QTRY_COMPARE(shown, seen);
+        QTest::qWait(50);
+        QCOMPARE(shown, seen);
+    }
+
+    // Switched off while the desktop still answers the questions before: a late "allowed" must
+    // not switch it on again. A guide gone mid-question takes nothing down with it.
+    void aLaterChoiceOutlivesAnEarlierAnswer()
+    {
+        Rig rig(true);
+        QVERIFY2(rig.ready(true), qPrintable(rig.bus.error()));
+        rig.guide->appear();
+        rig.guide->setNotif(true);
+        rig.guide->setNotif(false);
+        QTest::qWait(200);
+        QVERIFY(!rig.guide->notif());
+        rig.guide->setNotif(true);
+        rig.guide.reset();
+        QTest::qWait(100);
+    }
+
+    // Settings may change the login item while the guide's window is closed.
+    void comingBackReadsTheSystemAgain()
+    {
+        Rig rig(true);
+        OnboardingModel &guide = *rig.guide;
+        guide.advance();
+        guide.advance();
+        QVERIFY(rig.loginItem.set(true));
+        QVERIFY(!guide.login());
+        guide.appear();
+        QCOMPARE(guide.step(), 0);
+        QVERIFY(guide.login());
+        QVERIFY(!rig.preferences.onboarded());
+    }
 };
-
-void OnboardingModelTest::notificationSwitch_data()
-{
-    QTest::addColumn<bool>("server");
-    QTest::addColumn<bool>("choice");
-    QTest::addColumn<QList<bool>>("seen"); // the switch, from the window's appearance on
-    QTest::newRow("allowed") << true << true << QList<bool>{true, true, true};
-    QTest::newRow("no notification server: back to off") << false << true << QList<bool>{false, true, false};
-    QTest::newRow("turned off: no question asked") << true << false << QList<bool>{true, false};
-}
-
-void OnboardingModelTest::notificationSwitch()
-{
-    QFETCH(bool, server);
-    QFETCH(bool, choice);
-    QFETCH(QList<bool>, seen);
-    Rig rig(server);
-    QVERIFY2(rig.ready(server), qPrintable(rig.bus.error()));
-    OnboardingModel &guide = *rig.guide;
-    QVERIFY(!guide.notif());
-    QList<bool> shown;
-    connect(&guide, &OnboardingModel::notifChanged, this, [&] { shown.append(guide.notif()); });
-
-    guide.appear();
-    QTRY_COMPARE(shown.size(), 1);
-    guide.setNotif(choice);
-    QTRY_COMPARE(shown, seen);
-    QTest::qWait(50);
-    QCOMPARE(shown, seen);
-}
-
-// Switched off while the desktop still answers the questions before: a late "allowed" must
-// not switch it on again. A guide gone mid-question takes nothing down with it.
-void OnboardingModelTest::aLaterChoiceOutlivesAnEarlierAnswer()
-{
-    Rig rig(true);
-    QVERIFY2(rig.ready(true), qPrintable(rig.bus.error()));
-    rig.guide->appear();
-    rig.guide->setNotif(true);
-    rig.guide->setNotif(false);
-    QTest::qWait(200);
-    QVERIFY(!rig.guide->notif());
-
-    rig.guide->setNotif(true);
-    rig.guide.reset();
-    QTest::qWait(100);
-}
-
-// Settings may change the login item while the guide's window is closed.
-void OnboardingModelTest::comingBackReadsTheSystemAgain()
-{
-    Rig rig(true);
-    OnboardingModel &guide = *rig.guide;
-    guide.advance();
-    guide.advance();
-    QVERIFY(rig.loginItem.set(true));
-    QVERIFY(!guide.login());
-
-    guide.appear();
-    QCOMPARE(guide.step(), 0);
-    QVERIFY(guide.login());
-    QVERIFY(!rig.preferences.onboarded());
-}
 
 QTEST_GUILESS_MAIN(OnboardingModelTest)
 #include "tst_onboarding_model.moc"

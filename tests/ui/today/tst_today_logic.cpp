@@ -50,21 +50,16 @@ private Q_SLOTS:
         const QString ny = u"America/New_York"_s;
         const QString tuesday = u"2026-03-10T09:40:00-04:00"_s;
         const QStringList lastSunday = {u"2026-03-08T15:00:00-04:00"_s};
-        const QStringList nextSunday = {u"2026-03-15T15:00:00-04:00"_s};
         QTest::newRow("Sunday first, last Sunday") << tuesday << u"en_US"_s << ny << lastSunday << 1;
-        QTest::newRow("Sunday first, next Sunday") << tuesday << u"en_US"_s << ny << nextSunday << 0;
         QTest::newRow("Monday first, last Sunday") << tuesday << u"de_DE"_s << ny << lastSunday << 0;
-        QTest::newRow("Monday first, next Sunday") << tuesday << u"de_DE"_s << ny << nextSunday << 1;
         QTest::newRow("Monday first, ends of the week")
             << u"2026-03-10T09:40:00-04:00"_s << u"en_GB"_s << ny
             << QStringList{u"2026-03-09T00:00:00-04:00"_s, u"2026-03-15T23:59:00-04:00"_s,
                            u"2026-03-16T00:00:00-04:00"_s, u"2026-03-08T23:59:00-04:00"_s}
             << 2;
         // Saturday 23:30 in New York is already Sunday in UTC, the next US week.
-        QTest::newRow("the zone decides the day, New York")
+        QTest::newRow("the zone decides the day")
             << u"2026-03-10T13:40:00Z"_s << u"en_US"_s << ny << QStringList{u"2026-03-15T03:30:00Z"_s} << 1;
-        QTest::newRow("the zone decides the day, UTC")
-            << u"2026-03-10T13:40:00Z"_s << u"en_US"_s << u"UTC"_s << QStringList{u"2026-03-15T03:30:00Z"_s} << 0;
         QTest::newRow("a week across the new year")
             << u"2026-12-31T10:00:00-05:00"_s << u"en_US"_s << ny
             << QStringList{u"2027-01-02T10:00:00-05:00"_s, u"2027-01-03T10:00:00-05:00"_s} << 1;
@@ -105,7 +100,6 @@ private Q_SLOTS:
         QTest::newRow("started ten minutes ago") << qint64(-600'000) << true << u"HAPPENING NOW"_s;
         QTest::newRow("starts at this moment") << qint64(0) << true << u"HAPPENING NOW"_s;
         QTest::newRow("under a second away") << qint64(400) << false << u"NEXT · now"_s;
-        QTest::newRow("an hour and a half") << qint64(90 * 60'000) << false << u"NEXT · in 1h 30m"_s;
     }
     void caption()
     {
@@ -123,8 +117,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("zone");
         QTest::addColumn<QString>("range");
         QTest::newRow("en_US") << u"en_US"_s << u"America/New_York"_s << u"Tuesday 9:30\u202FAM – 10:15\u202FAM"_s;
-        QTest::newRow("de_DE") << u"de_DE"_s << u"America/New_York"_s << u"Dienstag, 09:30 – 10:15"_s;
-        QTest::newRow("en_US in Berlin") << u"en_US"_s << u"Europe/Berlin"_s << u"Tuesday 2:30\u202FPM – 3:15\u202FPM"_s;
+        QTest::newRow("de_DE in Berlin") << u"de_DE"_s << u"Europe/Berlin"_s << u"Dienstag, 14:30 – 15:15"_s;
     }
     void cardTexts()
     {
@@ -147,13 +140,12 @@ private Q_SLOTS:
         constexpr qint64 min = 60'000;
         QTest::newRow("coming") << 60 * min << 30 * min << true << false << false << true << qint64(30);
         QTest::newRow("starts now") << qint64(0) << 30 * min << true << false << true << true << qint64(30);
-        QTest::newRow("running") << -10 * min << 30 * min << true << false << true << true << qint64(30);
         QTest::newRow("ends now: not live, not yet past") << -30 * min << 30 * min << true << false << false << true
                                                           << qint64(30);
         QTest::newRow("ended a second ago") << -30 * min - 1'000 << 30 * min << true << true << false << false
                                             << qint64(30);
+        QTest::newRow("coming, no link") << 60 * min << 30 * min << false << false << false << false << qint64(30);
         QTest::newRow("29 min 59.999 s") << 60 * min << 30 * min - 1 << true << false << false << true << qint64(29);
-        QTest::newRow("under a minute") << 60 * min << qint64(59'999) << true << false << false << true << qint64(0);
     }
     void timelineRow()
     {

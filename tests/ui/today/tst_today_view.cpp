@@ -1,5 +1,6 @@
 // The Today screen as a user meets it on the fixture: the card, the counters, the timeline
-// and the calendar card, each in the states that change what shows.
+// and the calendar card, each in the states that change what shows; and the timeline's
+// model as the screen reads it.
 #include "FixtureRig.h"
 #include "FixtureSnapshot.h"
 #include "SystemColors.h"
@@ -19,6 +20,8 @@ using namespace quorvane;
 using namespace quorvane::test;
 using namespace Qt::StringLiterals;
 
+Q_DECLARE_METATYPE(quorvane::test::FixtureApp::State)
+
 namespace {
 
 const QByteArray todayWindow = R"(
@@ -28,11 +31,6 @@ Window {
     width: 960; height: 900; visible: true
     TodayView { anchors.fill: parent }
 })";
-
-QString text(const QQuickItem *item)
-{
-    return item ? item->property("text").toString() : QString();
-}
 
 Instant newYork(int hour, int minute)
 {
@@ -60,17 +58,13 @@ private Q_SLOTS:
         QTest::addColumn<bool>("link");
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("caption");
-        QTest::addColumn<bool>("green");
         QTest::addColumn<QString>("headline");
         QTest::addColumn<QString>("barColor");
-        const QString consult = u"consult"_s;
-        QTest::newRow("in progress") << 9 * 60 + 40 << true << consult << u"HAPPENING NOW"_s << true
-                                     << u"Consultation with Priya Raman"_s << u"#0a84ff"_s;
-        QTest::newRow("coming") << 9 * 60 + 5 << true << consult << u"NEXT · in 25m"_s << false
-                                << u"Consultation with Priya Raman"_s << u"#0a84ff"_s;
-        QTest::newRow("without a link") << 9 * 60 + 40 << false << consult << u"HAPPENING NOW"_s << true
-                                        << u"Consultation with Priya Raman"_s << u"#0a84ff"_s;
-        QTest::newRow("of a type that is gone") << 9 * 60 + 40 << true << u"retired"_s << u"HAPPENING NOW"_s << true
+        const QString consult = u"consult"_s, now = u"HAPPENING NOW"_s, priya = u"Consultation with Priya Raman"_s;
+        QTest::newRow("in progress") << 9 * 60 + 40 << true << consult << now << priya << u"#0a84ff"_s;
+        QTest::newRow("coming") << 9 * 60 + 5 << true << consult << u"NEXT · in 25m"_s << priya << u"#0a84ff"_s;
+        QTest::newRow("without a link") << 9 * 60 + 40 << false << consult << now << priya << u"#0a84ff"_s;
+        QTest::newRow("of a type that is gone") << 9 * 60 + 40 << true << u"retired"_s << now
                                                 << u"Meeting with Priya Raman"_s << u"#8e8e93"_s;
     }
     void card()
@@ -79,7 +73,6 @@ private Q_SLOTS:
         QFETCH(bool, link);
         QFETCH(QString, type);
         QFETCH(QString, caption);
-        QFETCH(bool, green);
         QFETCH(QString, headline);
         QFETCH(QString, barColor);
         FixtureRig rig;
@@ -90,44 +83,38 @@ private Q_SLOTS:
             s.upcoming[0].type = type;
         });
         ViewRig view(todayWindow, rig.setup());
-        QString why;
-        QVERIFY2(view.ready(&why), qPrintable(why));
+        QVERIFY_READY(view);
 
-        QQuickItem *captionLabel = view.item(u"caption"_s);
-        QCOMPARE(text(captionLabel), caption);
-        QCOMPARE(captionLabel->property("color").value<QColor>() == SystemColors::green(), green);
-        QCOMPARE(text(view.item(u"headline"_s)), headline);
-        QCOMPARE(text(view.item(u"timeRange"_s)), u"Tuesday 9:30\u202FAM – 10:00\u202FAM"_s);
-        QCOMPARE(ViewRig::shown(view.item(u"joinButton"_s)), link);
-        QQuickItem *bar = view.item(u"typeBar"_s);
-        QObject *gradient = bar->property("gradient").value<QJSValue>().toQObject();
+        QCOMPARE(view.text(u"caption"_s), caption);
+        // Green only while it runs.
+        QCOMPARE(view.item(u"caption"_s)->property("color").value<QColor>() == SystemColors::green(),
+                 caption == u"HAPPENING NOW"_s);
+        QCOMPARE(view.text(u"headline"_s), headline);
+        QCOMPARE(view.text(u"timeRange"_s), u"Tuesday 9:30\u202FAM – 10:00\u202FAM"_s);
+        QObject *gradient = view.item(u"typeBar"_s)->property("gradient").value<QJSValue>().toQObject();
         QVERIFY(gradient);
         QQmlListReference stops(gradient, "stops");
         QCOMPARE(stops.at(stops.count() - 1)->property("color").value<QColor>().name(), barColor);
-
+        QCOMPARE(view.shows(u"joinButton"_s), link);
         if (link) {
-            view.click(view.item(u"joinButton"_s));
+            view.click(u"joinButton"_s);
             QCOMPARE(rig.app.opened, QList<QUrl>{QUrl(u"https://meet.google.com/qvn-0001-ilse"_s)});
         }
     }
 
-    // The card counts down between the model's ticks, on its own timer.
+    // The card counts down between the model's ticks, on its own timer, while it is seen.
     void cardRedraws()
     {
         FixtureRig rig;
         rig.app.clock.set(newYork(9, 5));
         ViewRig view(todayWindow, rig.setup());
-        QString why;
-        QVERIFY2(view.ready(&why), qPrintable(why));
-        QQuickItem *card = view.item(u"nextMeetingCard"_s);
-        QObject *timer = card->findChild<QObject *>(u"redrawTimer"_s);
-        QVERIFY(timer);
-        QVERIFY(timer->property("running").toBool());
+        QVERIFY_READY(view);
+        QObject *timer = view.item(u"nextMeetingCard"_s)->findChild<QObject *>(u"redrawTimer"_s);
+        QVERIFY(timer && timer->property("running").toBool());
         QCOMPARE(timer->property("interval").toInt(), 30'000);
         rig.app.clock.advance(std::chrono::minutes(20));
         QVERIFY(QMetaObject::invokeMethod(timer, "triggered"));
-        QCOMPARE(text(view.item(u"caption"_s)), u"NEXT · in 5m"_s);
-        // A hidden window costs nothing.
+        QCOMPARE(view.text(u"caption"_s), u"NEXT · in 5m"_s);
         view.window()->hide();
         QTRY_VERIFY(!timer->property("running").toBool());
     }
@@ -138,12 +125,11 @@ private Q_SLOTS:
     {
         FixtureRig rig;
         ViewRig view(todayWindow, rig.setup());
-        QString why;
-        QVERIFY2(view.ready(&why), qPrintable(why));
+        QVERIFY_READY(view);
         QCOMPARE(view.item(u"todayTile"_s)->property("value").toString(), u"4"_s);
         QCOMPARE(view.item(u"weekTile"_s)->property("value").toString(), u"7"_s);
         QCOMPARE(view.item(u"pollsTile"_s)->property("value").toString(), u"1"_s);
-        QVERIFY(!ViewRig::shown(view.item(u"emptyDay"_s)));
+        QVERIFY(!view.shows(u"emptyDay"_s));
 
         const QList<QQuickItem *> markers = itemsNamed(view.window()->contentItem(), u"marker"_s);
         QCOMPARE(markers.size(), 4);
@@ -151,19 +137,17 @@ private Q_SLOTS:
         QCOMPARE(markers[1]->property("color").value<QColor>().name(), u"#34c759"_s); // Intro Call's own
     }
 
+    // Nothing today and nothing coming: the panel and the card say so, and the tiles stay.
     void emptyDay()
     {
         FixtureRig rig(FixtureApp::Options{.emptyData = true});
         ViewRig view(todayWindow, rig.setup());
-        QString why;
-        QVERIFY2(view.ready(&why), qPrintable(why));
-        QQuickItem *panel = view.item(u"emptyDay"_s);
-        QVERIFY(ViewRig::shown(panel));
-        QCOMPARE(panel->height(), 170.0);
-        QVERIFY(!ViewRig::shown(view.item(u"timeline"_s)));
-        // Nothing coming either: the card says so, and the tiles stay.
-        QVERIFY(ViewRig::shown(view.item(u"noMeeting"_s)));
-        QVERIFY(!ViewRig::shown(view.item(u"caption"_s)));
+        QVERIFY_READY(view);
+        QVERIFY(view.shows(u"emptyDay"_s));
+        QCOMPARE(view.item(u"emptyDay"_s)->height(), 170.0);
+        QVERIFY(!view.shows(u"timeline"_s));
+        QVERIFY(view.shows(u"noMeeting"_s));
+        QVERIFY(!view.shows(u"caption"_s));
         QCOMPARE(view.item(u"todayTile"_s)->property("value").toString(), u"0"_s);
     }
 
@@ -190,18 +174,12 @@ private Q_SLOTS:
         if (state != FixtureApp::State::loading)
             QCoro::waitFor(rig.app.model().refresh());
         ViewRig view(todayWindow, rig.setup());
-        QString why;
-        QVERIFY2(view.ready(&why), qPrintable(why));
-        QQuickItem *card = view.item(u"connectCard"_s);
-        QVERIFY(card);
-        if (state == FixtureApp::State::loading) {
-            QVERIFY(ViewRig::shown(view.item(u"todaySkeleton"_s)));
-            QVERIFY(!card->isVisible());
-            return;
-        }
-        QCOMPARE(ViewRig::shown(card), shown);
+        QVERIFY_READY(view);
+        QVERIFY(view.item(u"connectCard"_s));
+        QCOMPARE(view.shows(u"connectCard"_s), shown);
+        QCOMPARE(view.shows(u"todaySkeleton"_s), state == FixtureApp::State::loading);
         if (shown) {
-            view.click(view.item(u"connectButton"_s));
+            view.click(u"connectButton"_s);
             QTRY_VERIFY(rig.app.transport().requested.contains(u"POST sync/connect-link"_s));
         }
     }
@@ -215,16 +193,16 @@ private Q_SLOTS:
         model.setApp(&rig.app.model());
         QCOMPARE(model.rowCount(), 4);
         const QModelIndex first = model.index(0);
-        QCOMPARE(first.data(TimelineModel::LiveRole).toBool(), true);
+        QVERIFY(first.data(TimelineModel::LiveRole).toBool());
         QCOMPARE(first.data(TimelineModel::TimeRole).toString(), u"9:30\u202FAM"_s);
         QCOMPARE(first.data(TimelineModel::DetailRole).toString(), u"Consultation · 30 min"_s);
         QCOMPARE(first.data(TimelineModel::JoinNameRole).toString(), u"Join meeting with Priya Raman"_s);
 
         rig.app.clock.set(newYork(11, 5));
-        QVERIFY(QMetaObject::invokeMethod(&rig.app.model(), "ticked"));
+        Q_EMIT rig.app.model().ticked();
         QCOMPARE(model.rowCount(), 3);
         QCOMPARE(model.index(0).data(TimelineModel::NameRole).toString(), u"Tomás Ferreira"_s);
-        QCOMPARE(model.index(0).data(TimelineModel::LiveRole).toBool(), true);
+        QVERIFY(model.index(0).data(TimelineModel::LiveRole).toBool());
 
         rig.serverChanges([](Snapshot &s) { s.upcoming.clear(); });
         QCOMPARE(model.rowCount(), 0);
@@ -233,4 +211,3 @@ private Q_SLOTS:
 
 QTEST_MAIN(TestTodayView)
 #include "tst_today_view.moc"
-
