@@ -60,13 +60,6 @@ private Q_SLOTS:
         QFETCH(QString, sequence);
         QTEST(AppMenuModel::shortcutText(sequence), "text");
     }
-
-    void sectionKeys()
-    {
-        QCOMPARE(AppMenuModel::sectionShortcut(u"1"_s), u"Ctrl+1"_s);
-        QCOMPARE(AppMenuModel::sectionShortcut(u"6"_s), u"Ctrl+6"_s);
-        QCOMPARE(AppMenuModel::sectionShortcut(QString()), QString());
-    }
 };
 
 QTEST_GUILESS_MAIN(TestAppMenuModel)

@@ -85,33 +85,22 @@ private Q_SLOTS:
         QVERIFY(first.isListening());
     }
 
-    void laterLaunchesHandTheirWindowOver_data()
-    {
-        QTest::addColumn<QStringList>("requests");
-        QTest::newRow("share") << QStringList{u"share"_s};
-        QTest::newRow("several in a row, in order") << QStringList{u"main"_s, u"about"_s, u"share"_s, u"main"_s};
-    }
+    // Later launches hand their window over, in order; none of them may listen meanwhile, and
+    // asking whether anyone listens is no request.
     void laterLaunchesHandTheirWindowOver()
     {
-        QFETCH(QStringList, requests);
         RunningInstance running(path());
         QVERIFY(running.listening);
-
+        const QStringList requests{u"main"_s, u"about"_s, u"share"_s, u"main"_s};
         for (const QString &request : requests) {
             SingleInstance launch(path());
             QVERIFY(launch.handOver(request));
             QVERIFY(!launch.isListening());
         }
-        // The running instance passes a request on before it confirms it.
-        QCOMPARE(running.requests(), requests);
-    }
-
-    void aSecondListenerIsRefusedWhileTheFirstLives()
-    {
-        RunningInstance running(path());
         SingleInstance rival(path());
         QVERIFY(!rival.listen());
-        QVERIFY(running.requests().isEmpty()); // asking whether anyone listens is no request
+        // The running instance passes a request on before it confirms it.
+        QCOMPARE(running.requests(), requests);
     }
 
     void aSocketLeftByACrashIsTakenOver()
@@ -143,6 +132,8 @@ private Q_SLOTS:
 
         QTest::newRow("usual settings") << u"/run/user/1000"_s << home + u"/.config"_s
                                         << u"/run/user/1000/com.peldrachen.quorvane.instance"_s;
+        QTest::newRow("usual settings, written otherwise") << u"/run/user/1000"_s << home + u"/.config/"_s
+                                                           << u"/run/user/1000/com.peldrachen.quorvane.instance"_s;
         QTest::newRow("no runtime folder") << QString() << home + u"/.config"_s
                                            << u"%1/com.peldrachen.quorvane.instance-%2"_s;
         QTest::newRow("runtime folder gone") << u"/nonexistent/run"_s << home + u"/.config"_s

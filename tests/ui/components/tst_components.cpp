@@ -90,40 +90,33 @@ private Q_SLOTS:
         QTRY_VERIFY(!skeleton->property("animating").toBool());
     }
 
+    // Each kind of banner draws its icon in its own tint, through the icon provider.
     void bannerKinds_data()
     {
         QTest::addColumn<QByteArray>("kind");
-        QTest::addColumn<QString>("icon");
         QTest::addColumn<QColor>("tint");
-        QTest::newRow("error") << QByteArray("AppModel.Error") << u"exclamationmark.triangle.fill"_s
-                               << QColor(0xFF, 0x95, 0x00);
-        QTest::newRow("offline") << QByteArray("AppModel.Offline") << u"wifi.slash"_s << QColor(0x8E, 0x8E, 0x93);
-        QTest::newRow("info") << QByteArray("AppModel.Info") << u"checkmark.circle.fill"_s << QColor(0x34, 0xC7, 0x59);
+        QTest::newRow("error") << QByteArray("AppModel.Error") << QColor(0xFF, 0x95, 0x00);
+        QTest::newRow("offline") << QByteArray("AppModel.Offline") << QColor(0x8E, 0x8E, 0x93);
+        QTest::newRow("info") << QByteArray("AppModel.Info") << QColor(0x34, 0xC7, 0x59);
     }
     void bannerKinds()
     {
         QFETCH(QByteArray, kind);
-        QFETCH(QString, icon);
         QFETCH(QColor, tint);
         Host host("BannerView { objectName: 'banner'; width: 600; message: 'x'; kind: " + kind + " }");
         READY(host);
-        QQuickItem *iconItem = host.item(u"bannerIcon"_s);
-        QCOMPARE(iconItem->property("name").toString(), icon);
-        QCOMPARE(iconItem->property("color").value<QColor>(), tint);
-        QTRY_COMPARE(iconItem->property("status").toInt(), 1); // Image.Ready: the provider drew it
+        QQuickItem *icon = host.item(u"bannerIcon"_s);
+        QCOMPARE(icon->property("color").value<QColor>(), tint);
+        QTRY_COMPARE(icon->property("status").toInt(), 1); // Image.Ready: the provider drew it
         const QImage drawn = host.window->grabWindow();
-        const QPointF centre = iconItem->mapToScene(QPointF(iconItem->width() / 2, iconItem->height() / 2));
+        const QPoint centre = icon->mapToScene(QPointF(icon->width() / 2, icon->height() / 2)).toPoint();
         bool tinted = false;
-        for (int dx = -6; dx <= 6 && !tinted; ++dx) {
-            for (int dy = -6; dy <= 6 && !tinted; ++dy) {
-                const QColor c = drawn.pixelColor(int(centre.x()) + dx, int(centre.y()) + dy);
-                tinted = qAbs(c.red() - tint.red()) < 30 && qAbs(c.green() - tint.green()) < 30
-                         && qAbs(c.blue() - tint.blue()) < 30;
-            }
+        for (int i = 0; i < 13 * 13 && !tinted; ++i) {
+            const QColor c = drawn.pixelColor(centre + QPoint(i % 13 - 6, i / 13 - 6));
+            tinted = qAbs(c.red() - tint.red()) + qAbs(c.green() - tint.green()) + qAbs(c.blue() - tint.blue()) < 60;
         }
         QVERIFY2(tinted, "no pixel of the icon in its tint");
     }
-
 };
 
 QTEST_MAIN(TestComponents)

@@ -73,18 +73,17 @@ public:
     // A real pointer click, through the X server, as a user's would arrive.
     void click(const QPoint &at) const
     {
-        run(u"xdotool"_s, {u"mousemove"_s, QString::number(at.x()), QString::number(at.y()), u"click"_s,
-                           u"1"_s});
+        run(u"xdotool"_s, {u"mousemove"_s, QString::number(at.x()), QString::number(at.y()), u"click"_s, u"1"_s});
     }
 
     // Where the server has put this application's window of that size, on the root: the tray
-    // host reparents the icon, and only the server knows where it ended up.
+    // host reparents the icon, and only the server knows where it ended up. Lines read like
+    //     0x200006 "app": ("app" "app")  22x22+0+0  +1257+1
     [[nodiscard]] QRect placed(const QSize &size) const
     {
         const QString tree = QString::fromUtf8(run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s}));
-        const QString name = QCoreApplication::applicationName();
-        // 0x200006 "app": ("app" "app")  22x22+0+0  +1257+1
-        const QRegularExpression line(u"\\(\"%1\" \"%1\"\\)\\s+(\\d+)x(\\d+)\\S*\\s+\\+(-?\\d+)\\+(-?\\d+)"_s.arg(name));
+        const QRegularExpression line(u"\\(\"%1\" \"%1\"\\)\\s+(\\d+)x(\\d+)\\S*\\s+\\+(-?\\d+)\\+(-?\\d+)"_s
+                                          .arg(QCoreApplication::applicationName()));
         for (const QRegularExpressionMatch &m : line.globalMatch(tree)) {
             const QRect r(m.captured(3).toInt(), m.captured(4).toInt(), m.captured(1).toInt(), m.captured(2).toInt());
             if (r.size() == size)
@@ -114,28 +113,22 @@ private:
 
 TrayDesk *desk = nullptr;
 
-// How far apart two pictures of the same size are: the mean difference per channel.
-double distance(const QImage &a, const QImage &b)
+// How far the icon as shown is from `icon` drawn on the same background: the mean
+// difference per channel.
+double distance(const QImage &shown, const QIcon &icon)
 {
-    const QImage x = a.convertToFormat(QImage::Format_RGB32);
-    const QImage y = b.convertToFormat(QImage::Format_RGB32).scaled(x.size());
+    const QImage x = shown.convertToFormat(QImage::Format_RGB32);
+    QImage y(x.size(), QImage::Format_RGB32);
+    y.fill(x.pixelColor(0, 0));
+    QPainter(&y).drawPixmap(0, 0, icon.pixmap(x.size()));
     double sum = 0;
     for (int row = 0; row < x.height(); ++row) {
         for (int col = 0; col < x.width(); ++col) {
-            const QRgb p = x.pixel(col, row);
-            const QRgb q = y.pixel(col, row);
+            const QRgb p = x.pixel(col, row), q = y.pixel(col, row);
             sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q));
         }
     }
     return sum / (3.0 * x.width() * x.height());
-}
-
-QImage onBackground(const QIcon &icon, const QSize &size, const QColor &background)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(background);
-    QPainter(&image).drawPixmap(0, 0, icon.pixmap(size));
-    return image;
 }
 
 } // namespace
@@ -174,11 +167,9 @@ private Q_SLOTS:
         QTest::qWait(300);
         const QImage shown = QGuiApplication::primaryScreen()->grabWindow(0, icon.x(), icon.y(), icon.width(),
                                                                           icon.height()).toImage();
-        const QColor background = shown.pixelColor(0, 0);
-        const double toText = distance(shown, onBackground(TrayIcon::render(u"25m"_s), icon.size(), background));
-        const double toPlain = distance(shown, onBackground(TrayIcon::render(QString()), icon.size(), background));
-        QVERIFY2(toText < toPlain, qPrintable(u"drawn %1 from the countdown, %2 from the plain icon"_s
-                                                   .arg(toText).arg(toPlain)));
+        const double toText = distance(shown, TrayIcon::render(u"25m"_s));
+        const double toPlain = distance(shown, TrayIcon::render(QString()));
+        QVERIFY2(toText < toPlain, qPrintable(u"drawn %1 from the countdown, %2 from the plain icon"_s.arg(toText).arg(toPlain)));
 
         const QPoint middle = icon.topLeft() + QPoint(icon.width() / 2, icon.height() / 2);
         desk->click(middle);
