@@ -5,6 +5,7 @@
 #include "JSON.h"
 #include "NLAvailability.h"
 #include "SampleBookings.h"
+#include "Startup.h"
 #include "Snapshot.h"
 
 #include <QElapsedTimer>
@@ -95,12 +96,15 @@ bool benchDecode(const QList<Booking> &bookings, const Instant &now)
 
 } // namespace
 
-int main()
+int main(int argc, char *argv[])
 {
+    if (argc == 3 && qstrcmp(argv[1], "--floor") == 0)
+        return bench::runFloor(QString::fromLatin1(argv[2]), argc, argv);
     const Instant now = QDateTime::currentDateTimeUtc();
     const QList<Booking> bookings = bench::sampleBookings(10'000, now);
     bool ok = benchParse();
     ok = benchInsights(bookings, now) && ok;
     ok = benchDecode(bookings, now) && ok;
+    ok = bench::benchStartup(QString::fromLocal8Bit(argv[0]), QStringLiteral(QUORVANE_APP_PATH)) && ok;
     return ok ? 0 : 1;
 }

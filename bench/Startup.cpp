@@ -1,0 +1,234 @@
+#include "Startup.h"
+
+#include "Snapshot.h"
+#include "SampleBookings.h"
+#include "SnapshotCache.h"
+#include "linux/ProcessStats.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane::bench {
+
+namespace {
+
+constexpr int graceMs = 300; // as the self-test waits after its first frame
+constexpr int runs = 5;
+
+const QByteArray quickWindow = R"(
+import QtQuick
+Window {
+    width: 960; height: 640; visible: true
+    Rectangle { anchors.fill: parent; color: "white"; Text { anchors.centerIn: parent; text: "Floor" } }
+}
+)";
+
+const QByteArray controlsWindow = R"(
+import QtQuick
+import QtQuick.Controls
+import QtCharts
+ApplicationWindow {
+    width: 960; height: 640; visible: true
+    header: ToolBar { Row { Button { text: "Refresh" } Button { text: "Share" } } }
+    ChartView {
+        anchors.fill: parent
+        BarSeries { axisX: BarCategoryAxis { categories: ["Mon", "Tue", "Wed"] } BarSet { values: [3, 5, 2] } }
+    }
+}
+)";
+
+struct Figures {
+    double frameMs = -1;
+    double residentKiB = -1;
+};
+
+std::optional<Figures> runChild(const QString &program, const QStringList &arguments, const QProcessEnvironment &env,
+                                const QRegularExpression &pattern)
+{
+    QProcess child;
+    child.setProcessEnvironment(env);
+    child.start(program, arguments);
+    if (!child.waitForFinished(60'000) || child.exitCode() != 0) {
+        std::fprintf(stderr, "%s failed:\n%s\n", qPrintable(program), child.readAllStandardError().constData());
+        return std::nullopt;
+    }
+    const QRegularExpressionMatch match = pattern.match(QString::fromUtf8(child.readAllStandardOutput()));
+    if (!match.hasMatch())
+        return std::nullopt;
+    return Figures{match.captured(1).toDouble(), match.captured(2).toDouble()};
+}
+
+// Medians over several starts: the first start of a program pays for a cold disk cache.
+std::optional<Figures> median(const std::function<std::optional<Figures>()> &start)
+{
+    std::vector<double> frames;
+    std::vector<double> memory;
+    for (int i = 0; i < runs; ++i) {
+        const std::optional<Figures> f = start();
+        if (!f)
+            return std::nullopt;
+        frames.push_back(f->frameMs);
+        memory.push_back(f->residentKiB);
+    }
+    std::sort(frames.begin(), frames.end());
+    std::sort(memory.begin(), memory.end());
+    return Figures{frames[runs / 2], memory[runs / 2]};
+}
+
+// Folders of a user who has been through the welcome guide and has 2,000 bookings cached,
+// and no keyring, notification server or reachable server.
+QProcessEnvironment appEnvironment(const QTemporaryDir &home)
+{
+    const QString root = home.path();
+    for (const char *folder : {"config/Quorvane", "data/Quorvane", "cache", "home", "runtime"})
+        QDir(root).mkpath(QString::fromLatin1(folder));
+    QFile::setPermissions(root + u"/runtime"_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    {
+        QSettings settings(root + u"/config/Quorvane/Quorvane.ini"_s, QSettings::IniFormat);
+        settings.setValue(u"onboarded.v2"_s, true);
+    }
+    const Instant now = QDateTime::currentDateTimeUtc();
+    const QList<Booking> bookings = sampleBookings(2'000, now);
+    Snapshot snapshot;
+    Account account;
+    account.id = 1;
+    account.email = u"host@example.com"_s;
+    account.name = u"Bench Host"_s;
+    account.handle = u"bench"_s;
+    snapshot.account = account;
+    snapshot.upcoming = bookings.mid(0, bookings.size() / 2);
+    snapshot.history = bookings.mid(bookings.size() / 2);
+    snapshot.savedAt = now;
+    SnapshotCache(root + u"/data/Quorvane/cache-v2.json"_s).save(snapshot);
+
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    env.insert(u"HOME"_s, root + u"/home"_s);
+    env.insert(u"XDG_CONFIG_HOME"_s, root + u"/config"_s);
+    env.insert(u"XDG_DATA_HOME"_s, root + u"/data"_s);
+    env.insert(u"XDG_CACHE_HOME"_s, root + u"/cache"_s);
+    env.insert(u"XDG_RUNTIME_DIR"_s, root + u"/runtime"_s);
+    env.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + root + u"/runtime/no-bus"_s);
+    return env;
+}
+
+bool report(const char *what, double value, double budget)
+{
+    const bool ok = value <= budget;
+    std::printf("%-44s %10.2f x      budget %8.2f  %s\n", what, value, budget, ok ? "ok" : "OVER");
+    return ok;
+}
+
+// Processor use of the app left alone for a while after it has settled, in percent of one core.
+std::optional<double> idleCpu(const QString &appPath, const QProcessEnvironment &env)
+{
+    QProcess app;
+    app.setProcessEnvironment(env);
+    app.start(appPath, {u"--server"_s, u"http://127.0.0.1:9"_s});
+    if (!app.waitForStarted())
+        return std::nullopt;
+    QThread::msleep(4'000); // start, first refresh (refused at once), settling
+    const pid_t pid = pid_t(app.processId());
+    const std::optional<qint64> before = ProcessStats::cpuMs(pid);
+    QElapsedTimer wall;
+    wall.start();
+    QThread::msleep(10'000);
+    const std::optional<qint64> after = ProcessStats::cpuMs(pid);
+    const qint64 elapsed = wall.elapsed();
+    app.kill();
+    app.waitForFinished();
+    if (!before || !after)
+        return std::nullopt;
+    return 100.0 * double(*after - *before) / double(elapsed);
+}
+
+} // namespace
+
+int runFloor(const QString &kind, int &argc, char **argv)
+{
+    QElapsedTimer started;
+    started.start();
+    const bool controls = kind == "controls"_L1;
+    std::unique_ptr<QGuiApplication> app(controls ? new QApplication(argc, argv) : new QGuiApplication(argc, argv));
+    if (controls)
+        QQuickStyle::setStyle(u"Fusion"_s);
+    QQmlApplicationEngine engine;
+    qint64 frameMs = -1;
+    QObject::connect(&engine, &QQmlApplicationEngine::objectCreated, &engine, [&](QObject *made) {
+        auto *window = qobject_cast<QQuickWindow *>(made);
+        if (!window) {
+            QCoreApplication::exit(1);
+            return;
+        }
+        QObject::connect(window, &QQuickWindow::frameSwapped, window, [&] {
+            if (frameMs >= 0)
+                return;
+            frameMs = started.elapsed();
+            QTimer::singleShot(graceMs, [] { QCoreApplication::quit(); });
+        });
+    });
+    engine.loadData(controls ? controlsWindow : quickWindow);
+    const int status = QGuiApplication::exec();
+    if (status != 0 || frameMs < 0)
+        return 1;
+    std::printf("%lld %lld\n", static_cast<long long>(frameMs),
+                static_cast<long long>(ProcessStats::residentKiB().value_or(-1)));
+    return 0;
+}
+
+bool benchStartup(const QString &benchPath, const QString &appPath)
+{
+    QProcessEnvironment floorEnv = QProcessEnvironment::systemEnvironment();
+    floorEnv.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    const QRegularExpression floorLine(u"^(\\d+) (\\d+)"_s);
+    const auto quick = median([&] { return runChild(benchPath, {u"--floor"_s, u"quick"_s}, floorEnv, floorLine); });
+    const auto controls = median([&] { return runChild(benchPath, {u"--floor"_s, u"controls"_s}, floorEnv, floorLine); });
+
+    QTemporaryDir home;
+    const QProcessEnvironment env = appEnvironment(home);
+    const QRegularExpression appLine(u"first frame after (\\d+) ms; resident (\\d+) KiB"_s);
+    const auto app = median([&] {
+        return runChild(appPath, {u"--self-test"_s, u"--server"_s, u"http://127.0.0.1:9"_s}, env, appLine);
+    });
+    if (!quick || !controls || !app) {
+        std::fprintf(stderr, "start-up: a child process failed\n");
+        return false;
+    }
+    std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: bare Qt Quick window", quick->frameMs, quick->residentKiB / 1024);
+    std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: Controls and Charts window", controls->frameMs,
+                controls->residentKiB / 1024);
+    std::printf("%-44s %7.0f ms %7.0f MiB\n", "main window, 2,000 cached bookings", app->frameMs, app->residentKiB / 1024);
+    bool ok = report("first frame / Controls+Charts floor", app->frameMs / controls->frameMs, 1.5);
+    ok = report("resident memory / Controls+Charts floor", app->residentKiB / controls->residentKiB, 1.5) && ok;
+
+    const std::optional<double> idle = idleCpu(appPath, env);
+    if (!idle) {
+        std::fprintf(stderr, "start-up: could not read the idle app's processor time\n");
+        return false;
+    }
+    const bool quiet = *idle < 0.05; // rounds to 0.0 %
+    std::printf("%-44s %10.2f %%      budget     0.0   %s\n", "idle processor use, main window open", *idle,
+                quiet ? "ok" : "OVER");
+    return ok && quiet;
+}
+
+} // namespace quorvane::bench

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+namespace quorvane::bench {
+
+// `quorvane-bench --floor quick|controls`: draws a reference window offscreen (a bare Qt Quick
+// window, or one with Controls and a chart), then prints "FRAME_MS RESIDENT_KIB" and exits.
+// The figures count from main(), as the app's own self-test does.
+int runFloor(const QString &kind, int &argc, char **argv);
+
+// Starts both floors and the app (`quorvane --self-test` on a cached snapshot of 2,000
+// bookings, against a server that isn't there) as child processes, then the app once more to
+// measure its idle processor use, and reports the ratios to their budgets.
+bool benchStartup(const QString &benchPath, const QString &appPath);
+
+} // namespace quorvane::bench

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <optional>
+#include <sys/types.h>
+
+namespace quorvane::ProcessStats {
+
+// What the kernel says of a running process (this one by default), from /proc; none where it
+// can't be read (the process has gone, or /proc isn't there).
+
+// Resident memory, in KiB.
+[[nodiscard]] std::optional<qint64> residentKiB(pid_t pid = 0);
+// Processor time used so far, user and system together, in milliseconds.
+[[nodiscard]] std::optional<qint64> cpuMs(pid_t pid = 0);
+
+} // namespace quorvane::ProcessStats
