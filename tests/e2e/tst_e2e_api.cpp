@@ -59,12 +59,13 @@ private Q_SLOTS:
     }
     void cleanup() { h.reset(); }
 
+    // The account and its links, derived by the server from the settings; the demo's calendar,
+    // polls and slots.
     void theDemoAccount()
     {
         const Account me = await(api().me());
         const HostSettings settings = await(api().settings());
-        QCOMPARE(me.handle, settings.handle);
-        QCOMPARE(me.base, h->base());
+        QCOMPARE((std::pair{me.handle, me.base}), (std::pair{std::optional(settings.handle), std::optional(h->base())}));
         // One link per active type: the demo has four types, one of them inactive.
         QStringList links, expected;
         for (const Account::Link &l : me.links.value())
@@ -80,13 +81,10 @@ private Q_SLOTS:
         QVERIFY(me.google && me.google->connected && google.connected);
         QCOMPARE(google.calendars.value().size(), 3);
         QVERIFY(any(*google.calendars, [](const CalendarItem &c) { return !c.writable; }));
-        const QList<Poll> polls = await(api().polls());
-        QCOMPARE(polls.size(), 2);
-        QVERIFY(!polls.first().voters.isEmpty() && !polls.first().options.isEmpty());
+        QVERIFY(!await(api().polls()).first().voters.isEmpty());
         const SlotList slots = await(api().slots(u"intro"_s, 5, u"Europe/Paris"_s));
         QCOMPARE(slots.link.value(), h->base() + u"/jordan/intro"_s);
-        QVERIFY(!slots.slots.isEmpty());
-        QVERIFY(slots.slots.first().start >= h->now().addSecs(3600)); // the demo host's hour of notice
+        QVERIFY(!slots.slots.isEmpty() && slots.slots.first().start >= h->now().addSecs(3600)); // an hour's notice
     }
 
     void upcomingAndHistorySplitAtNow()
@@ -167,7 +165,6 @@ private Q_SLOTS:
         await(api().disconnectGoogle());
         const GoogleStatus off = await(api().google());
         QVERIFY(!off.connected && !off.calendars && !off.email);
-        QVERIFY(!await(api().me()).google->connected);
 
         const QString link = await(api().connectLink()).value().toString();
         QVERIFY(link.startsWith(h->base() + u"/connect/"_s));

@@ -82,6 +82,7 @@ private Q_SLOTS:
         QCOMPARE(AutostartLoginItem::execValue(u"/home/ann/My Apps/Q.AppImage"_s), u"\"/home/ann/My Apps/Q.AppImage\""_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/100%/q"_s), u"/opt/100%%/q"_s); // not a field code
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/$HOME/q"_s), u"\"/opt/\\\\$HOME/q\""_s);
+        QCOMPARE(AutostartLoginItem::execValue(u"/opt/a\"b/q"_s), u"\"/opt/a\\\\\"b/q\""_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/a\\b/q"_s), u"\"/opt/a\\\\\\\\b/q\""_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/a\nb"_s), u"\"/opt/a\\nb\""_s);
     }

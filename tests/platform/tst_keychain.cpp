@@ -7,7 +7,6 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QDir>
@@ -24,27 +23,6 @@ namespace {
 
 // Nothing the store's users print may contain it.
 const QString canary = u"canary-2b8e61-keyring-token"_s;
-
-// The Secret Service's secret struct (oayays), to unlock with the password.
-struct SecretValue {
-    QDBusObjectPath session;
-    QByteArray parameters, value;
-    QString contentType;
-};
-QDBusArgument &operator<<(QDBusArgument &a, const SecretValue &s)
-{
-    a.beginStructure();
-    a << s.session << s.parameters << s.value << s.contentType;
-    a.endStructure();
-    return a;
-}
-const QDBusArgument &operator>>(const QDBusArgument &a, SecretValue &s)
-{
-    a.beginStructure();
-    a >> s.session >> s.parameters >> s.value >> s.contentType;
-    a.endStructure();
-    return a;
-}
 
 QDBusMessage callSecrets(const QString &method, const QVariantList &arguments,
                          const QString &interface = u"org.freedesktop.Secret.Service"_s)
@@ -80,8 +58,6 @@ int probe()
 
 } // namespace
 
-Q_DECLARE_METATYPE(SecretValue)
-
 class TestKeychain : public QObject
 {
     Q_OBJECT
@@ -92,7 +68,6 @@ class TestKeychain : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        qDBusRegisterMetaType<SecretValue>();
         if (qEnvironmentVariableIsEmpty("QUORVANE_TEST_KEYRING_PASSWORD"))
             QFAIL("run this test under tests/support/run-in-session");
     }
@@ -167,8 +142,11 @@ private Q_SLOTS:
         // gnome-keyring's own call to unlock without a prompt; a "plain" session is fine on a test bus.
         const QDBusMessage session =
             callSecrets(u"OpenSession"_s, {u"plain"_s, QVariant::fromValue(QDBusVariant(u""_s))});
-        const SecretValue password{session.arguments().value(1).value<QDBusObjectPath>(), {},
-                                   qgetenv("QUORVANE_TEST_KEYRING_PASSWORD"), u"text/plain"_s};
+        QDBusArgument password; // the Secret Service's secret struct, (oayays)
+        password.beginStructure();
+        password << session.arguments().value(1).value<QDBusObjectPath>() << QByteArray()
+                 << qgetenv("QUORVANE_TEST_KEYRING_PASSWORD") << u"text/plain"_s;
+        password.endStructure();
         const QDBusMessage unlocked = callSecrets(u"UnlockWithMasterPassword"_s,
                                                   {QVariant::fromValue(collection), QVariant::fromValue(password)},
                                                   u"org.gnome.keyring.InternalUnsupportedGuiltRiddenInterface"_s);

@@ -17,6 +17,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("opens");
 
         QTest::newRow("https") << u"https://meet.google.com/abc-defg-hij"_s << true;
+        QTest::newRow("http") << u"http://example.com/ann/intro"_s << true;
         QTest::newRow("upper-case scheme") << u"HTTPS://example.com/"_s << true;
         QTest::newRow("mailto") << u"mailto:ann@example.com"_s << true;
         QTest::newRow("file") << u"file:///etc/passwd"_s << false;

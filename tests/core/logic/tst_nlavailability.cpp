@@ -43,8 +43,10 @@ private Q_SLOTS:
         row("weekends", u"1:540-1020 7:540-1020"_s);
         row("everyday 9-5", {});
         row("every day 9-5", u"1:540-1020 "_s + weekdays + u" 7:540-1020"_s);
+        row("daily 10-11", u"1:600-660 2:600-660 3:600-660 4:600-660 5:600-660 6:600-660 7:600-660"_s);
         row("mon-thu 10-4", u"2:600-960 3:600-960 4:600-960 5:600-960"_s);
         row("monday to friday", weekdays);
+        row("mon through wed", u"2:540-1020 3:540-1020 4:540-1020"_s);
         row("tue\u2013thu", u"3:540-1020 4:540-1020 5:540-1020"_s);
         row("sat-sun 9-5", {});
         row("mon wed", u"2:540-1020 4:540-1020"_s);

@@ -25,7 +25,7 @@ private Q_SLOTS:
         constexpr qint64 day = 24 * 3600'000LL;
         // Seconds are cut, then minutes rounded up; days are whole days.
         const std::pair<qint64, const char *> rows[] = {
-            {0, "now"},           {900, "now"},           {1'000, "in 1m"},         {61'000, "in 2m"},
+            {-90'000, "now"},     {900, "now"},           {1'000, "in 1m"},         {61'000, "in 2m"},
             {3'540'000, "in 59m"}, {3'541'000, "in 1h"}, {3'660'000, "in 1h 1m"}, {day - 59'000, "in 1d"},
             {2 * day - 60'000, "in 1d"}};
         for (const auto &[msecs, text] : rows)
@@ -69,6 +69,7 @@ private Q_SLOTS:
         QTest::newRow("underscore doesn't") << u"b"_s << u"a_b"_s << 7;
         QTest::newRow("greedy, no better alignment") << u"ab"_s << u"xa ab"_s << 15;
         QTest::newRow("out of order") << u"yt"_s << u"Today"_s << none;
+        QTest::newRow("can be negative") << u"z"_s << u"abcdefghijklmnopqrstuvwxyz"_s << -16;
         // One user-perceived character each, however it is spelled.
         QTest::newRow("composed vs decomposed") << u"\u00e9"_s << u"e\u0301t\u00e9"_s << 57;
         QTest::newRow("accent isn't the base letter") << u"e"_s << u"\u00e9"_s << none;
@@ -88,7 +89,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("newer");
         const std::tuple<const char *, const char *, bool> rows[] = {
             {"2.0", "1.9.9", true},   {"1.10", "1.9", true}, {"1.9", "1.10", false}, {"1.0", "1", false},
-            {"1.0.1", "1", true},     {"2.0", "2.0", false}, {"1.2rc1", "1.1", false}, {"1..2", "1.1", true},
+            {"1.0.1", "1", true},     {"2.0", "2.0", false}, {"1.2rc1", "1.1", false}, {"1..2", "1.1", true}, {"1. 5", "1.0", false},
             {"1.\u0665", "1.0", false}, // digits of other scripts are not numbers
             // Too large for 64 bits: 0, not a wrapped-around negative number.
             {"1.0", "1.9223372036854775808", false}, {"1.9223372036854775807", "1.1", true}};
