@@ -71,10 +71,13 @@ ApplicationWindow {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
 
-                    SignInHero {
-                        objectName: "signInHero"
+                    // Made only while it is shown: a returning user never sees it.
+                    Loader {
                         anchors.fill: parent
-                        visible: frameModel.showsSignInHero
+                        active: frameModel.showsSignInHero
+                        sourceComponent: SignInHero {
+                            objectName: "signInHero"
+                        }
                     }
                     SectionContent {
                         objectName: "sectionContent"
