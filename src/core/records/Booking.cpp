@@ -33,9 +33,10 @@ Booking Codec<Booking>::decode(const QJsonValue &value, const CodingPath &path)
     b.tz = r.required<QString>("tz"_L1);
     b.notes = r.optional<QString>("notes"_L1);
     // The key must be there; whatever it holds decodes, null included.
-    if (!r.object().contains("status"_L1))
+    const QJsonValue status = r.object().value("status"_L1);
+    if (status.isUndefined())
         codec::fail(path.key(u"status"_s), u"No value for required key \"status\""_s);
-    b.status = Codec<BookingStatus>::decode(r.object().value("status"_L1), path.key(u"status"_s));
+    b.status = Codec<BookingStatus>::decode(status, path.key(u"status"_s));
     b.meet = r.optional<QString>("meet"_L1);
     b.inCalendar = r.optional<bool>("inCalendar"_L1);
     b.created = r.optional<Instant>("created"_L1);

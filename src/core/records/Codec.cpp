@@ -2,8 +2,17 @@
 
 #include "ISO.h"
 
+#include <QThread>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <exception>
 #include <limits>
+#include <memory>
+#include <semaphore>
+#include <vector>
 
 namespace quorvane {
 
@@ -81,6 +90,52 @@ QString typeName(const QJsonValue &value)
 void typeMismatch(const CodingPath &path, const char *expected, const QJsonValue &found)
 {
     fail(path, QStringLiteral("Expected %1 but found %2 instead.").arg(QLatin1StringView(expected), typeName(found)));
+}
+
+bool worthSlicing(qsizetype count)
+{
+    return count >= 2 * sliceLength && QThread::idealThreadCount() > 1;
+}
+
+void forEachSlice(qsizetype count, const std::function<void(qsizetype from, qsizetype to)> &work)
+{
+    // Held by every participant: a helper may still be returning from release() when the
+    // caller, woken, leaves this function.
+    struct Shared {
+        explicit Shared(qsizetype slices) : failures(static_cast<size_t>(slices)) {}
+        std::atomic<qsizetype> next{0};
+        std::vector<std::exception_ptr> failures;
+        std::counting_semaphore<> finished{0};
+    };
+    const qsizetype slices = (count + sliceLength - 1) / sliceLength;
+    const auto shared = std::make_shared<Shared>(slices);
+    // Every participant takes the next slice until none is left, so the calling thread alone
+    // finishes the job when the pool has no thread to spare (or is the caller's own pool).
+    const auto drain = [count, slices, &work](Shared &state) {
+        for (qsizetype slice = state.next++; slice < slices; slice = state.next++) {
+            try {
+                work(slice * sliceLength, std::min(count, (slice + 1) * sliceLength));
+            } catch (...) {
+                state.failures[size_t(slice)] = std::current_exception();
+            }
+        }
+    };
+    int helpers = 0;
+    const qsizetype wanted = std::min<qsizetype>(QThread::idealThreadCount() - 1, slices - 1);
+    for (qsizetype h = 0; h < wanted; ++h) {
+        if (QThreadPool::globalInstance()->tryStart([shared, drain] {
+                drain(*shared);
+                shared->finished.release();
+            }))
+            ++helpers;
+    }
+    drain(*shared);
+    for (int h = 0; h < helpers; ++h)
+        shared->finished.acquire();
+    for (const std::exception_ptr &failure : shared->failures) {
+        if (failure)
+            std::rethrow_exception(failure);
+    }
 }
 
 } // namespace codec

@@ -9,7 +9,9 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
 #include <optional>
+#include <type_traits>
 
 namespace quorvane {
 
@@ -51,6 +53,15 @@ namespace codec {
 [[noreturn]] void fail(const CodingPath &path, const QString &reason);
 [[noreturn]] void typeMismatch(const CodingPath &path, const char *expected, const QJsonValue &found);
 QString typeName(const QJsonValue &value);
+
+// Long arrays (a cache of thousands of bookings) are decoded in slices, by the calling thread
+// and whichever threads of the global pool are free at the time.
+constexpr qsizetype sliceLength = 512;
+[[nodiscard]] bool worthSlicing(qsizetype count);
+// Calls work(from, to) over [0, count) slice by slice, some on other threads, and returns when
+// all are done. A slice's exception is rethrown here; of several, the earliest slice's, so
+// that the first failing element is the one reported, as it would be in a plain loop.
+void forEachSlice(qsizetype count, const std::function<void(qsizetype from, qsizetype to)> &work);
 } // namespace codec
 
 template<>
@@ -92,6 +103,17 @@ struct Codec<QList<T>> {
         if (!v.isArray())
             codec::typeMismatch(path, "an array", v);
         const QJsonArray array = v.toArray();
+        if constexpr (std::is_default_constructible_v<T>) {
+            if (codec::worthSlicing(array.size())) {
+                QList<T> out(array.size());
+                T *items = out.data(); // no detaching while other threads write
+                codec::forEachSlice(array.size(), [&](qsizetype from, qsizetype to) {
+                    for (qsizetype i = from; i < to; ++i)
+                        items[i] = Codec<T>::decode(array.at(i), path.index(i));
+                });
+                return out;
+            }
+        }
         QList<T> out;
         out.reserve(array.size());
         for (qsizetype i = 0; i < array.size(); ++i)

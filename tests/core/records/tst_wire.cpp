@@ -80,6 +80,53 @@ private Q_SLOTS:
                             R"("noShow":false,"start":"2026-03-10T14:00:00Z","status":"pending","type":"intro","tz":"UTC"})"));
     }
 
+    // Long lists are decoded in slices on several threads; the result and the error must be
+    // those of a plain loop: every element in place, and the first failing element named.
+    void longListsDecodeAsOne_data()
+    {
+        QTest::addColumn<QList<int>>("broken"); // elements whose start is made unreadable
+        QTest::addColumn<QString>("path");
+        QTest::newRow("sound") << QList<int>{} << QString();
+        QTest::newRow("one bad element late") << QList<int>{2900} << u"[2900].start"_s;
+        QTest::newRow("earliest of several wins") << QList<int>{2900, 1500, 7} << u"[7].start"_s;
+        QTest::newRow("same slice") << QList<int>{1030, 1025} << u"[1025].start"_s;
+    }
+    void longListsDecodeAsOne()
+    {
+        QFETCH(QList<int>, broken);
+        QFETCH(QString, path);
+
+        const Instant base = *ISO::parse(u"2026-03-10T14:00:00Z"_s);
+        QList<Booking> bookings;
+        for (int i = 0; i < 3000; ++i) {
+            Booking b;
+            b.id = u"b%1"_s.arg(i);
+            b.type = u"intro"_s;
+            b.start = base.addSecs(i * 1800);
+            b.end = b.start.addSecs(1800);
+            b.name = u"Guest %1"_s.arg(i);
+            b.email = u"g%1@example.com"_s.arg(i);
+            b.tz = u"UTC"_s;
+            bookings.append(b);
+        }
+        QJsonArray array = toJson(bookings).toArray();
+        for (int i : std::as_const(broken)) {
+            QJsonObject object = array.at(i).toObject();
+            object.insert(u"start"_s, u"soon"_s);
+            array.replace(i, object);
+        }
+
+        const Result<QList<Booking>> decoded = fromJson<QList<Booking>>(array);
+        if (path.isEmpty()) {
+            QVERIFY(decoded.ok());
+            QCOMPARE(*decoded, bookings);
+        } else {
+            QVERIFY(!decoded.ok());
+            QCOMPARE(decoded.error().path, path);
+            QCOMPARE(decoded.error().reason, u"Bad date soon"_s);
+        }
+    }
+
     void parseRejectsGarbage()
     {
         QVERIFY(!JSON::parse("").ok());
