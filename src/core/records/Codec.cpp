@@ -92,6 +92,10 @@ void typeMismatch(const CodingPath &path, const char *expected, const QJsonValue
     fail(path, QStringLiteral("Expected %1 but found %2 instead.").arg(QLatin1StringView(expected), typeName(found)));
 }
 
+namespace {
+constexpr qsizetype sliceLength = 512;
+} // namespace
+
 bool worthSlicing(qsizetype count)
 {
     return count >= 2 * sliceLength && QThread::idealThreadCount() > 1;

@@ -56,7 +56,6 @@ QString typeName(const QJsonValue &value);
 
 // Long arrays (a cache of thousands of bookings) are decoded in slices, by the calling thread
 // and whichever threads of the global pool are free at the time.
-constexpr qsizetype sliceLength = 512;
 [[nodiscard]] bool worthSlicing(qsizetype count);
 // Calls work(from, to) over [0, count) slice by slice, some on other threads, and returns when
 // all are done. A slice's exception is rethrown here; of several, the earliest slice's, so
