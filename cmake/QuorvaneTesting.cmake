@@ -4,7 +4,7 @@
 #
 # Tests that use the session's one keyring (and its "api-token" item) never run at once.
 set(QUORVANE_KEYRING_TESTS
-    tst_keychain tst_device_sign_in tst_appmodel_cycle tst_appmodel_commands tst_sign_in_panel)
+    tst_keychain tst_device_sign_in tst_appmodel_cycle tst_sign_in_panel)
 
 function(quorvane_add_test)
     cmake_parse_arguments(T "" "NAME;LABEL;TIMEOUT" "SOURCES;LIBS;WRAPPER" ${ARGN})

@@ -3,8 +3,6 @@
 #include "ISO.h"
 #include "NetworkTransport.h"
 
-#include <QDir>
-
 using namespace Qt::StringLiterals;
 
 namespace quorvane::test {
@@ -20,18 +18,24 @@ Instant defaultNow()
 QCoro::Task<HTTPResponse> RecordingTransport::send(HTTPRequest request, Cancellation cancellation)
 {
     sent.append({request.method, request.request.url().path(), request.body.value_or(QByteArray())});
+    if (onSend)
+        onSend(sent.size());
     co_return co_await m_inner->send(std::move(request), std::move(cancellation));
 }
 
 int RecordingTransport::count(const QByteArray &method, const QString &path) const
 {
-    return int(std::count_if(sent.cbegin(), sent.cend(), [&](const SentRequest &r) {
+    return int(std::count_if(sent.cbegin(), sent.cend(), [&](const Sent &r) {
         return r.method == method && r.path.endsWith(path);
     }));
 }
 
-ModelRig::ModelRig()
-    : server(sandbox::SandboxHarness::config(true), defaultNow())
+ModelRig::ModelRig(int autoApproveSeconds)
+    : server([autoApproveSeconds] {
+        sandbox::SandboxConfig config = sandbox::SandboxHarness::config(true);
+        config.autoApproveSeconds = autoApproveSeconds;
+        return config;
+    }(), defaultNow())
     , clock(defaultNow())
     , opener([this](const QUrl &url) {
         opened.append(url);
@@ -52,62 +56,40 @@ ModelRig::~ModelRig()
 
 bool ModelRig::ready(QString *why)
 {
-    if (!server.start()) {
-        *why = u"the sandbox did not start"_s;
-        return false;
-    }
-    if (!bus.isRunning()) {
-        *why = u"no private bus: "_s + bus.error();
-        return false;
-    }
+    const auto fail = [why](const QString &reason) { return *why = reason, false; };
+    if (!server.start())
+        return fail(u"the sandbox did not start"_s);
+    if (!bus.isRunning())
+        return fail(u"no private bus: "_s + bus.error());
     notifications = std::make_unique<FakeNotificationServer>(bus.connect(u"notifications"_s));
-    if (!notifications->start()) {
-        *why = u"the fake notification server did not start"_s;
-        return false;
-    }
+    if (!notifications->start())
+        return fail(u"the fake notification server did not start"_s);
     notifier = std::make_unique<FreedesktopNotifier>(bus.connect(u"app"_s), clock, u"en_US"_s,
                                                      u"America/New_York"_s);
     preferences->setServerURL(server.base());
-    if (!keychain.write(QString::fromLatin1(token))) {
-        *why = u"the keyring refused the token (run inside tests/support/run-in-session)"_s;
-        return false;
-    }
+    if (!keychain.write(QString::fromLatin1(token)))
+        return fail(u"the keyring refused the token (run inside tests/support/run-in-session)"_s);
     return true;
 }
 
 AppEnvironment ModelRig::environment()
 {
-    AppEnvironment env;
-    env.clock = &clock;
-    env.transport = transport;
-    env.secrets = &secrets;
-    env.notifier = notifier.get();
-    env.preferences = preferences.get();
-    env.opener = &opener;
-    env.clipboard = &clipboard;
-    env.dataDirectory = dataDirectory;
-    env.locale = u"en_US"_s;
-    env.zone = u"America/New_York"_s;
-    env.timings = timings;
-    return env;
-}
-
-void ModelRig::setNow(const Instant &at)
-{
-    clock.set(at);
-    server.setNow(at);
+    return {.clock = &clock, .transport = transport, .secrets = &secrets, .notifier = notifier.get(),
+            .preferences = preferences.get(), .opener = &opener, .clipboard = &clipboard,
+            .dataDirectory = dataDirectory, .locale = u"en_US"_s, .zone = u"America/New_York"_s, .timings = timings};
 }
 
 void ModelRig::advance(qint64 seconds)
 {
-    setNow(clock.now().addSecs(seconds));
+    clock.set(clock.now().addSecs(seconds));
+    server.setNow(clock.now());
 }
 
-Booking ModelRig::guestBooks(const QString &name, const Instant &start, const QString &type)
+Booking ModelRig::guestBooks(const QString &name, const Instant &start)
 {
     sandbox::Backend &backend = server.sandbox().backend();
     sandbox::GuestBooking request;
-    request.type = type.isEmpty() ? backend.settings().eventTypes.first().slug : type;
+    request.type = backend.settings().eventTypes.first().slug;
     request.start = start;
     request.name = name;
     request.email = u"guest@example.com"_s;

@@ -17,35 +17,32 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 namespace quorvane::test {
-
-// What went over the wire, as the client sent it.
-struct SentRequest {
-    QByteArray method;
-    QString path;
-    QByteArray body;
-};
 
 // The real network transport, with a log of what it sent.
 class RecordingTransport : public HTTPTransport
 {
 public:
+    struct Sent {
+        QByteArray method;
+        QString path;
+        QByteArray body;
+    };
     explicit RecordingTransport(std::shared_ptr<HTTPTransport> inner) : m_inner(std::move(inner)) {}
     QCoro::Task<HTTPResponse> send(HTTPRequest request, Cancellation cancellation) override;
-    QList<SentRequest> sent;
     [[nodiscard]] int count(const QByteArray &method, const QString &path) const;
+    QList<Sent> sent;
+    std::function<void(qsizetype)> onSend; // told how many went out, this one included
 
 private:
     std::shared_ptr<HTTPTransport> m_inner;
 };
 
-class RecordingClipboard : public Clipboard
-{
-public:
-    void setText(const QString &text) override { texts.append(text); }
-    QStringList texts;
+struct QuietClipboard : Clipboard {
+    void setText(const QString &) override {}
 };
 
 // One application model against an in-process sandbox on loopback, the real keyring of the
@@ -56,21 +53,21 @@ class ModelRig
 public:
     static constexpr char token[] = "test-token";
 
-    ModelRig();
+    // autoApproveSeconds >= 0: the sandbox approves a device sign-in on its own.
+    explicit ModelRig(int autoApproveSeconds = -1);
     ~ModelRig();
 
-    // False with a reason when a part of the rig could not start.
+    // False with a reason when something in the rig could not start.
     [[nodiscard]] bool ready(QString *why);
     // The services of a model on the rig's folders, and such a model; a second one acts as a
     // restart.
     [[nodiscard]] AppEnvironment environment();
     [[nodiscard]] std::unique_ptr<AppModel> makeModel() { return std::make_unique<AppModel>(environment()); }
 
-    void setNow(const Instant &at);
+    // Moves the clock of both the model and the sandbox.
     void advance(qint64 seconds);
-    [[nodiscard]] Instant now() const { return clock.now(); }
-    // A guest books through the service, now.
-    Booking guestBooks(const QString &name, const Instant &start, const QString &type = {});
+    // A guest books the first event type through the service, now.
+    Booking guestBooks(const QString &name, const Instant &start);
 
     sandbox::SandboxHarness server;
     FixedClock clock;
@@ -84,7 +81,7 @@ public:
     std::unique_ptr<Preferences> preferences;
     QNetworkAccessManager network;
     std::shared_ptr<RecordingTransport> transport;
-    RecordingClipboard clipboard;
+    QuietClipboard clipboard;
     QList<QUrl> opened;
     UrlOpener opener;
     QString dataDirectory;

@@ -1,105 +1,48 @@
 // Signing in with a code confirmed in the browser, against the sandbox on loopback and the
-// session's keyring: success, every way it fails, cancelling, restarting, and the
-// name the computer gives itself.
+// session's keyring: success and the model taking over, the ways it fails, cancelling and
+// trying again.
 #include "DeviceSignIn.h"
-#include "FixedClock.h"
-#include "Keychain.h"
-#include "NetworkTransport.h"
-#include "Sandbox.h"
-#include "UrlOpener.h"
-#include "linux/LibsecretStore.h"
+#include "ModelRig.h"
 
-#include <QJsonDocument>
-#include <QNetworkAccessManager>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
 using namespace quorvane;
+using namespace quorvane::test;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Phase = DeviceSignIn::Phase;
 
 namespace {
 
-const Instant moment = QDateTime(QDate(2025, 3, 3), QTime(8, 0), Qt::UTC);
-const QString earlier = u"earlier-token"_s;
-const QString pollPath = u"/auth/device/poll"_s;
+const QString poll = u"auth/device/poll"_s;
 
-// The real transport, keeping every request it was given.
-struct RecordingTransport : HTTPTransport {
-    explicit RecordingTransport(QNetworkAccessManager &manager) : inner(manager) {}
-    QCoro::Task<HTTPResponse> send(HTTPRequest request, Cancellation cancellation) override
+// A sign-in on a model rig, whose keyring holds an earlier token. The sandbox approves a code
+// at its first poll (autoApprove 0) or only when the test approves it (-1).
+struct Flow {
+    explicit Flow(int autoApprove = -1, DeviceSignIn::Timings timings = {20ms, 600s})
+        : rig(autoApprove), signIn(rig.transport, rig.secrets, rig.opener, rig.clock, timings)
     {
-        sent.append(request);
-        if (onSend)
-            onSend(sent.size());
-        co_return co_await inner.send(std::move(request), std::move(cancellation));
+        started = rig.ready(&why);
+        signIn.onSuccess = [this] { ++successes; };
     }
-    [[nodiscard]] qsizetype count(const QString &path) const
-    {
-        return std::count_if(sent.cbegin(), sent.cend(), [&](const auto &r) { return r.request.url().path() == path; });
-    }
-    NetworkTransport inner;
-    QList<HTTPRequest> sent;
-    std::function<void(qsizetype)> onSend;
-};
-
-// The session's keyring; `locked` makes it refuse every change, as a locked collection does.
-struct Keyring : LibsecretStore {
-    void remove(const QString &service, const QString &account) override
-    {
-        if (!locked)
-            LibsecretStore::remove(service, account);
-    }
-    bool add(const QString &service, const QString &account, const QString &label, const QByteArray &secret) override
-    {
-        return !locked && LibsecretStore::add(service, account, label, secret);
-    }
-    bool locked = false;
-};
-
-// One sign-in against a sandbox on loopback that approves a code at its first poll, or only
-// when the test approves it. The client's clock moves when told; opened pages are noted.
-struct Rig {
-    explicit Rig(int autoApproveSeconds = -1, DeviceSignIn::Timings timings = {20ms, 600s})
-        : server({.port = 0, .autoApproveSeconds = autoApproveSeconds, .logRequests = false}, [now = serverNow] { return *now; }),
-          transport(std::make_shared<RecordingTransport>(network)), signIn(transport, keyring, opener, clock, timings)
-    {
-        keychain.write(earlier);
-        signIn.onSuccess = [this] { ++successes, tokenAtSuccess = keychain.read(Keychain::apiAccount); };
-        QObject::connect(&signIn, &DeviceSignIn::phaseChanged, [this] {
-            phases.append(signIn.phase());
-            if (signIn.phase() == Phase::waiting)
-                shownCode = signIn.code();
-        });
-        QString error;
-        started = server.start(&error);
-    }
-    ~Rig()
+    ~Flow()
     {
         signIn.cancel();
         QTest::qWait(20); // an aborted reply finishes before its network manager goes
     }
-    void begin(const QString &suffix = {}) { signIn.start(QUrl(server.baseUrl() + suffix)); }
-    void plant(const QString &path, const sandbox::Fault &fault) { server.faults().plant(path, fault); }
-    [[nodiscard]] bool holds(const QString &token) const { return keychain.read(Keychain::apiAccount) == token; }
+    void begin() { signIn.start(QUrl(rig.server.base())); }
+    [[nodiscard]] int polls() const { return rig.transport->count("POST", poll); }
+    [[nodiscard]] bool untouched() const
+    {
+        return successes == 0 && rig.keychain.read(Keychain::apiAccount) == QLatin1StringView(ModelRig::token);
+    }
 
-    std::shared_ptr<Instant> serverNow = std::make_shared<Instant>(moment);
-    sandbox::Sandbox server;
-    bool started = false;
-    QNetworkAccessManager network;
-    std::shared_ptr<RecordingTransport> transport;
-    Keyring keyring;
-    Keychain keychain{keyring};
-    QList<QUrl> opened;
-    UrlOpener opener{[this](const QUrl &url) { return opened.append(url), true; }};
-    FixedClock clock{moment};
+    ModelRig rig;
     DeviceSignIn signIn;
+    bool started = false;
+    QString why;
     int successes = 0;
-    std::optional<QString> tokenAtSuccess;
-    QList<Phase> phases;
-    QString shownCode;
 };
 
 } // namespace
@@ -108,46 +51,26 @@ class DeviceSignInTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void signsIn_data()
+    // The token is stored before the model is told, so the model's refresh signs in with it.
+    void signsInAndTheModelTakesOver()
     {
-        QTest::addColumn<int>("autoApprove"); // -1: the test approves the code
-        QTest::addColumn<int>("pending");     // planted "not yet" answers
-        QTest::addColumn<QString>("baseSuffix");
-        QTest::newRow("approved in the browser") << -1 << 0 << QString();
-        QTest::newRow("approved by the first poll") << 0 << 0 << u"/"_s;
-        QTest::newRow("not yet, twice") << 0 << 2 << QString();
-    }
-    void signsIn()
-    {
-        QFETCH(int, autoApprove);
-        QFETCH(int, pending);
-        QFETCH(QString, baseSuffix);
-        Rig rig(autoApprove);
-        QVERIFY(rig.started);
-        if (pending > 0)
-            rig.plant(u"auth/device/poll"_s, {.status = 428, .body = "{}", .count = pending});
-        QSignalSpy succeeded(&rig.signIn, &DeviceSignIn::succeeded);
-        QSignalSpy activated(&rig.signIn, &DeviceSignIn::activateRequested);
-
-        rig.begin(baseSuffix);
-        if (autoApprove < 0) {
-            QTRY_COMPARE(rig.signIn.phase(), Phase::waiting);
-            QVERIFY(rig.server.devices().approve(rig.signIn.code()));
-        }
-        QTRY_COMPARE(rig.signIn.phase(), Phase::done);
-        QCOMPARE(rig.phases, (QList<Phase>{Phase::starting, Phase::waiting, Phase::done}));
-        QCOMPARE(rig.opened, QList<QUrl>{QUrl(rig.server.baseUrl() + u"/device?code="_s + rig.shownCode)});
-        QVERIFY(rig.successes == 1 && succeeded.count() == 1 && activated.count() == 1);
-        const std::optional<QString> token = rig.keychain.read(Keychain::apiAccount);
-        QVERIFY(token && rig.server.devices().isValid(*token) && rig.tokenAtSuccess == token); // never printed
-        if (autoApprove >= 0)
-            QCOMPARE(rig.transport->count(pollPath), pending + 1);
-        for (const HTTPRequest &sent : std::as_const(rig.transport->sent)) {
-            QVERIFY(sent.method == "POST" && !sent.request.hasRawHeader("Authorization"));
-            QCOMPARE(sent.request.header(QNetworkRequest::ContentTypeHeader).toString(), u"application/json"_s);
-        }
-        const QJsonObject first = QJsonDocument::fromJson(*rig.transport->sent.first().body).object();
-        QCOMPARE(first.value("label"_L1).toString(), DeviceSignIn::computerLabel());
+        Flow flow;
+        QVERIFY2(flow.started, qPrintable(flow.why));
+        flow.rig.keychain.signOut();
+        auto model = flow.rig.makeModel();
+        QVERIFY(model->needsSignIn());
+        flow.signIn.onSuccess = [&] { model->signedIn(); };
+        flow.begin();
+        QTRY_COMPARE(flow.signIn.phase(), Phase::waiting);
+        const QString code = flow.signIn.code();
+        QCOMPARE(flow.rig.opened, QList<QUrl>{QUrl(flow.rig.server.base() + u"/device?code="_s + code)});
+        QTRY_VERIFY(flow.polls() >= 2); // "not yet" keeps it polling
+        QVERIFY(flow.rig.server.sandbox().devices().approve(code));
+        QTRY_COMPARE(flow.signIn.phase(), Phase::done);
+        const std::optional<QString> token = flow.rig.keychain.read(Keychain::apiAccount);
+        QVERIFY(token && flow.rig.server.sandbox().devices().isValid(*token));
+        QVERIFY(!model->needsSignIn());
+        QTRY_VERIFY(model->account().has_value());
     }
 
     void failures_data()
@@ -156,23 +79,20 @@ private Q_SLOTS:
         QTest::addColumn<int>("status"); // 0: the connection is dropped
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<QString>("message"); // ending in "(": how it starts
-        const QString poll = u"auth/device/poll"_s, start = u"auth/device/start"_s;
-        const QString unreadable = u"The server's answer couldn't be read."_s;
-        const QByteArray codes = R"({"device_code":"d","user_code":"U","verification_uri_complete":)";
-        const auto row = [](const char *name, const QString &path, int status, const QByteArray &body, const QString &message) {
-            QTest::newRow(name) << path << status << body << message;
-        };
+        const QString start = u"auth/device/start"_s, unreadable = u"The server's answer couldn't be read."_s;
+        const auto row = [](const char *name, const QString &path, int status, const QByteArray &body,
+                            const QString &message) { QTest::newRow(name) << path << status << body << message; };
         row("poll: 500, not JSON", poll, 500, "<h1>oops</h1>", u"Sign-in failed (500)."_s);
         row("poll: 200, token a number", poll, 200, R"({"access_token":42})", u"Sign-in failed (200)."_s);
         row("poll: 200, token empty", poll, 200, R"({"access_token":""})", u"Sign-in failed (200)."_s);
         row("poll: token beside 201", poll, 201, R"({"access_token":"t"})", u"Sign-in failed (201)."_s);
-        row("poll: code expired", poll, 400, R"({"error":"expired_token"})", u"That code expired. Try again."_s);
-        row("poll: denied", poll, 403, R"({"error":"access_denied"})", u"Sign-in failed (403)."_s);
         row("poll: dropped", poll, 0, {}, u"Couldn't reach the server ("_s);
         row("start: 503", start, 503, R"({"error":"busy"})", u"Couldn't start sign-in."_s);
         row("start: not JSON", start, 200, "<html>", unreadable);
-        row("start: a code missing", start, 200, R"({"user_code":"U","verification_uri_complete":"https:\/\/h"})", unreadable);
-        row("start: page not a URL", start, 200, codes + "\"http://[broken\"}", unreadable);
+        row("start: a code missing", start, 200, R"({"user_code":"U","verification_uri_complete":"https:\/\/h"})",
+            unreadable);
+        row("start: page not a URL", start, 200,
+            "{\"device_code\":\"d\",\"user_code\":\"U\",\"verification_uri_complete\":\"http://[broken\"}", unreadable);
         row("start: dropped", start, 0, {}, u"Couldn't reach the server ("_s);
     }
     // Every failure ends the flow at once and leaves the stored token alone. The server
@@ -183,53 +103,55 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(QByteArray, body);
         QFETCH(QString, message);
-        Rig rig(0);
-        QVERIFY(rig.started);
+        Flow flow(0);
+        QVERIFY2(flow.started, qPrintable(flow.why));
         // The network stack may send a dropped request again; drop that too.
-        rig.plant(path, {.status = status ? std::optional(status) : std::nullopt, .body = body, .drop = !status,
-                         .count = status ? 1 : 5});
-        rig.begin();
-        QTRY_COMPARE(rig.signIn.phase(), Phase::failed);
-        QVERIFY2(message.endsWith(u'(') ? rig.signIn.message().startsWith(message) : rig.signIn.message() == message,
-                 qPrintable(rig.signIn.message()));
-        QVERIFY(rig.signIn.code().isEmpty() && rig.signIn.url().isEmpty());
+        flow.rig.server.sandbox().faults().plant(
+            path, {.status = status ? std::optional(status) : std::nullopt, .body = body, .drop = !status,
+                   .count = status ? 1 : 5});
+        flow.begin();
+        QTRY_COMPARE(flow.signIn.phase(), Phase::failed);
+        const QString said = flow.signIn.message();
+        QVERIFY2(message.endsWith(u'(') ? said.startsWith(message) : said == message, qPrintable(said));
+        QVERIFY(flow.signIn.code().isEmpty() && flow.signIn.url().isEmpty());
         QTest::qWait(100);
-        QCOMPARE(rig.signIn.phase(), Phase::failed);
-        const int polls = path == u"auth/device/poll"_s ? 1 : 0;
-        QCOMPARE(rig.transport->count(pollPath), polls);
-        QCOMPARE(rig.opened.size(), polls);
-        QVERIFY(rig.successes == 0 && rig.holds(earlier));
+        QCOMPARE(flow.signIn.phase(), Phase::failed);
+        QCOMPARE(flow.polls(), path == poll ? 1 : 0);
+        QCOMPARE(flow.rig.opened.size(), flow.polls());
+        QVERIFY(flow.untouched());
     }
 
-    // A flow that got its codes and still ends without a token leaves the earlier one.
-    void endsWithoutAToken_data()
+    // A code that runs out leaves the earlier token; Try Again asks for a new code, which signs in.
+    void expiresAndTriesAgain_data()
     {
-        QTest::addColumn<QString>("how");
+        QTest::addColumn<bool>("onTheServer");
         QTest::addColumn<QString>("message");
-        QTest::newRow("code expired on the server") << u"server"_s << u"That code expired. Try again."_s;
-        QTest::newRow("at the client's deadline") << u"deadline"_s << u"Timed out waiting for approval."_s;
-        QTest::newRow("keyring locked") << u"locked"_s << u"Couldn't save to the system keyring."_s;
+        QTest::newRow("code expired on the server") << true << u"That code expired. Try again."_s;
+        QTest::newRow("at the client's deadline") << false << u"Timed out waiting for approval."_s;
     }
-    void endsWithoutAToken()
+    void expiresAndTriesAgain()
     {
-        QFETCH(QString, how);
+        QFETCH(bool, onTheServer);
         QFETCH(QString, message);
-        const bool locked = how == u"locked"_s;
-        Rig rig(locked ? 0 : -1);
-        QVERIFY(rig.started);
-        rig.keyring.locked = locked;
-        rig.begin();
-        if (!locked) {
-            QTRY_COMPARE(rig.signIn.phase(), Phase::waiting);
-            if (how == u"server"_s)
-                *rig.serverNow = moment.addSecs(600);
-            else
-                rig.clock.advance(600s); // exactly the deadline: no longer before it
-        }
-        QTRY_COMPARE(rig.signIn.phase(), Phase::failed);
-        QCOMPARE(rig.signIn.message(), message);
-        rig.keyring.locked = false;
-        QVERIFY(rig.successes == 0 && rig.holds(earlier));
+        Flow flow;
+        QVERIFY2(flow.started, qPrintable(flow.why));
+        flow.begin();
+        QTRY_COMPARE(flow.signIn.phase(), Phase::waiting);
+        const QString first = flow.signIn.code();
+        if (onTheServer)
+            flow.rig.server.advance(600);
+        else
+            flow.rig.clock.advance(600s); // exactly the deadline: no longer before it
+        QTRY_COMPARE(flow.signIn.phase(), Phase::failed);
+        QCOMPARE(flow.signIn.message(), message);
+        QVERIFY(flow.untouched());
+
+        flow.begin();
+        QTRY_COMPARE(flow.signIn.phase(), Phase::waiting);
+        QVERIFY(flow.signIn.code() != first);
+        QVERIFY(flow.rig.server.sandbox().devices().approve(flow.signIn.code()));
+        QTRY_COMPARE(flow.signIn.phase(), Phase::done);
+        QCOMPARE(flow.successes, 1);
     }
 
     void cancel_data()
@@ -238,82 +160,32 @@ private Q_SLOTS:
         QTest::addColumn<int>("interval");
         QTest::addColumn<int>("cancelAt"); // once this many requests went out; 0: once waiting
         QTest::newRow("asking for codes") << u"auth/device/start"_s << 20 << 1;
-        QTest::newRow("between polls") << QString() << 300 << 0;
-        QTest::newRow("polling") << u"auth/device/poll"_s << 20 << 2;
+        QTest::newRow("waiting between polls") << QString() << 300 << 0;
+        QTest::newRow("polling") << poll << 20 << 2;
     }
-    // The server approves at once: a request that slipped past the cancel would sign in.
+    // Cancelling goes back to the start, quietly. The server approves at once: a request that
+    // slipped past the cancel would sign in.
     void cancel()
     {
         QFETCH(QString, slowPath);
         QFETCH(int, interval);
         QFETCH(int, cancelAt);
-        Rig rig(0, {std::chrono::milliseconds(interval), 600s});
-        QVERIFY(rig.started);
+        Flow flow(0, {std::chrono::milliseconds(interval), 600s});
+        QVERIFY2(flow.started, qPrintable(flow.why));
         if (!slowPath.isEmpty())
-            rig.plant(slowPath, {.delayMs = 300});
-        const auto cancelSoon = [&] { QTimer::singleShot(cancelAt ? 50 : 0, &rig.signIn, &DeviceSignIn::cancel); };
-        rig.transport->onSend = [&](qsizetype sent) { sent == cancelAt ? cancelSoon() : void(); };
-        connect(&rig.signIn, &DeviceSignIn::phaseChanged, this,
-                [&] { cancelAt == 0 && rig.signIn.phase() == Phase::waiting ? cancelSoon() : void(); });
+            flow.rig.server.sandbox().faults().plant(slowPath, {.delayMs = 300});
+        const auto cancelSoon = [&] { QTimer::singleShot(cancelAt ? 50 : 0, &flow.signIn, &DeviceSignIn::cancel); };
+        flow.rig.transport->onSend = [&](qsizetype sent) { sent == cancelAt ? cancelSoon() : void(); };
+        connect(&flow.signIn, &DeviceSignIn::phaseChanged, this,
+                [&] { cancelAt == 0 && flow.signIn.phase() == Phase::waiting ? cancelSoon() : void(); });
 
-        rig.begin();
-        QTRY_COMPARE(rig.signIn.phase(), Phase::idle);
-        QCOMPARE(rig.transport->sent.size(), std::max(cancelAt, 1));
+        flow.begin();
+        QTRY_COMPARE(flow.signIn.phase(), Phase::idle);
+        QCOMPARE(flow.rig.transport->sent.size(), std::max(cancelAt, 1));
         QTest::qWait(400);
-        QVERIFY(rig.signIn.phase() == Phase::idle && rig.signIn.message().isEmpty() && !rig.phases.contains(Phase::failed));
-        QCOMPARE(rig.transport->sent.size(), std::max(cancelAt, 1));
-        QVERIFY(rig.successes == 0 && rig.holds(earlier));
-    }
-
-    void newStartReplacesTheRunningFlow_data()
-    {
-        QTest::addColumn<bool>("whileStarting");
-        QTest::newRow("while asking for codes") << true;
-        QTest::newRow("while waiting") << false;
-    }
-    void newStartReplacesTheRunningFlow()
-    {
-        QFETCH(bool, whileStarting);
-        Rig rig;
-        QVERIFY(rig.started);
-        rig.begin();
-        if (!whileStarting)
-            QTRY_COMPARE(rig.signIn.phase(), Phase::waiting);
-        const QString abandoned = rig.signIn.code();
-        rig.begin();
-        QTRY_COMPARE(rig.signIn.phase(), Phase::waiting);
-        const QString current = rig.signIn.code();
-        // Approving the abandoned code signs nothing in: its flow no longer polls.
-        QVERIFY(current != abandoned && (whileStarting || rig.server.devices().approve(abandoned)));
-        QTest::qWait(100);
-        QCOMPARE(rig.signIn.code(), current);
-        QVERIFY(rig.server.devices().approve(current));
-        QTRY_COMPARE(rig.signIn.phase(), Phase::done);
-        QCOMPARE(rig.successes, 1);
-        QCOMPARE(rig.transport->count(u"/auth/device/start"_s), 2);
-        QCOMPARE(rig.opened.size(), whileStarting ? 1 : 2);
-    }
-
-    void computerLabel_data()
-    {
-        QTest::addColumn<QByteArray>("machineInfo");
-        QTest::addColumn<QString>("hostName");
-        QTest::addColumn<QString>("label");
-        const QString host = u"mira-x1"_s;
-        QTest::newRow("quoted, escapes") << QByteArray(R"(PRETTY_HOSTNAME="The \"Lab\" PC")") << host << u"The \"Lab\" PC"_s;
-        QTest::newRow("single quotes") << QByteArray("PRETTY_HOSTNAME='B\xc3\xbcro 2'\n") << host << u"B\u00fcro 2"_s;
-        QTest::newRow("among others") << QByteArray("# hostnamectl\nCHASSIS=laptop\nPRETTY_HOSTNAME=Work\nX=1\n") << host
-                                      << u"Work"_s;
-        QTest::newRow("commented out") << QByteArray("#PRETTY_HOSTNAME=Old\n") << host << host;
-        QTest::newRow("blank") << QByteArray("PRETTY_HOSTNAME=\"  \"\n") << host << host;
-        QTest::newRow("no names") << QByteArray() << u" "_s << u"Linux"_s;
-    }
-    void computerLabel()
-    {
-        QFETCH(QByteArray, machineInfo);
-        QFETCH(QString, hostName);
-        QFETCH(QString, label);
-        QCOMPARE(DeviceSignIn::labelFrom(machineInfo, hostName), label);
+        QVERIFY(flow.signIn.phase() == Phase::idle && flow.signIn.message().isEmpty() && flow.signIn.code().isEmpty());
+        QCOMPARE(flow.rig.transport->sent.size(), std::max(cancelAt, 1));
+        QVERIFY(flow.untouched());
     }
 };
 
