@@ -2,73 +2,70 @@
 
 #include "IconProvider.h"
 
-#include <QPointF>
 #include <QQmlApplicationEngine>
-#include <QQmlContext>
-#include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
 
-// Reaching into a shown QML window the way a person would see it: items by objectName
-// through the visual tree (where repeater delegates live too), clicks in their middle, and
-// attached properties read through QML itself.
-namespace quorvane::test::ItemLookup {
+namespace quorvane::test {
 
-// An engine with the app's modules and icons that keeps every QML complaint.
-struct Engine : QQmlApplicationEngine {
-    Engine()
+// A QML window in an engine of its own with the app's modules and icons, keeping every QML
+// complaint. Items are found by objectName in the visual tree, where delegates live too.
+struct View {
+    explicit View(const QByteArray &qml = {}, const QUrl &url = {})
     {
-        addImportPath(QStringLiteral("qrc:/qt/qml"));
-        addImageProvider(QStringLiteral("icon"), new IconProvider);
-        connect(this, &QQmlEngine::warnings, this, [this](const QList<QQmlError> &list) {
+        engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+        engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
+        QObject::connect(&engine, &QQmlEngine::warnings, &engine, [this](const QList<QQmlError> &list) {
             for (const QQmlError &w : list)
                 warnings.append(w.toString());
         });
+        if (!qml.isEmpty())
+            engine.loadData(qml, QUrl(QStringLiteral("file:///test/Host.qml")));
+        else if (!url.isEmpty())
+            engine.load(url);
     }
-    // The first root object as a window, shown and exposed; null if it didn't load or show.
-    [[nodiscard]] QQuickWindow *shownWindow()
+    // The first root object as a window, shown and exposed.
+    [[nodiscard]] bool ready()
     {
-        auto *window = rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(rootObjects().constFirst());
+        if (!window && !engine.rootObjects().isEmpty())
+            window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
         if (window)
             window->show();
-        return window && QTest::qWaitForWindowExposed(window) ? window : nullptr;
+        return window && QTest::qWaitForWindowExposed(window);
     }
+    [[nodiscard]] QList<QQuickItem *> all(const QString &name, QQuickItem *under = nullptr) const
+    {
+        under = under ? under : window->contentItem();
+        QList<QQuickItem *> out;
+        if (under->objectName() == name)
+            out.append(under);
+        for (QQuickItem *child : under->childItems())
+            out += all(name, child);
+        return out;
+    }
+    [[nodiscard]] QQuickItem *item(const QString &name) const { return all(name).value(0); }
+    [[nodiscard]] QString text(const QString &name) const { return item(name) ? item(name)->property("text").toString() : QString(); }
+    // On screen: it and every parent visible and not faded out.
+    [[nodiscard]] bool shows(const QString &name) const
+    {
+        const QQuickItem *at = item(name);
+        for (; at && at->isVisible() && at->opacity() > 0; at = at->parentItem()) { }
+        return item(name) && !at;
+    }
+    void click(const QQuickItem *item, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QVERIFY(item);
+        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        QTest::mouseClick(window, Qt::LeftButton, modifiers, centre.toPoint());
+    }
+    void click(const QString &name, Qt::KeyboardModifiers modifiers = {}) const { click(item(name), modifiers); }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const { QTest::keyClick(window, key, modifiers); }
     QStringList warnings;
+    QQmlApplicationEngine engine;
+    QQuickWindow *window = nullptr;
 };
 
-inline QQuickItem *find(QQuickItem *under, const QString &name)
-{
-    if (!under || under->objectName() == name)
-        return under;
-    for (QQuickItem *child : under->childItems()) {
-        if (QQuickItem *found = find(child, name))
-            return found;
-    }
-    return nullptr;
-}
+#define QVERIFY_READY(view) QVERIFY2((view).ready(), qPrintable((view).warnings.join(u'\n')))
 
-// On screen: it and every parent visible and not faded out.
-inline bool shown(const QQuickItem *item)
-{
-    for (const QQuickItem *at = item; at; at = at->parentItem()) {
-        if (!at->isVisible() || at->opacity() <= 0)
-            return false;
-    }
-    return item != nullptr;
-}
-
-inline void click(QQuickWindow *window, const QQuickItem *item, Qt::KeyboardModifiers modifiers = {})
-{
-    const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(window, Qt::LeftButton, modifiers, centre.toPoint());
-}
-
-// A QML expression in the item's scope, such as "Accessible.name" or "ToolTip.text".
-inline QVariant eval(QQuickItem *item, const QString &expression)
-{
-    QQmlExpression e(qmlContext(item), item, expression);
-    return e.evaluate();
-}
-
-} // namespace quorvane::test::ItemLookup
+} // namespace quorvane::test

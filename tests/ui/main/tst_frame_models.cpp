@@ -1,10 +1,8 @@
-// The main window's models over a whole application model at a fixed moment: the section
-// badges, the share links, and the frame's texts as the model changes. The texts' own rules
-// are tst_main_window_text's.
+// The main window's frame: its texts, and its models over a fixture app as it changes.
 #include "FixtureApp.h"
 #include "MainWindowModel.h"
+#include "MainWindowText.h"
 #include "SectionListModel.h"
-#include "ShareLinkModel.h"
 #include "Tint.h"
 
 #include <QAbstractItemModelTester>
@@ -16,77 +14,90 @@ using namespace Qt::StringLiterals;
 using namespace quorvane;
 using test::FixtureApp;
 
-namespace {
-QVariant roleData(const QAbstractItemModel &model, int row, int role)
-{
-    return model.data(model.index(row, 0), role);
-}
-constexpr auto qtest = QAbstractItemModelTester::FailureReportingMode::QtTest;
-} // namespace
+Q_DECLARE_METATYPE(std::optional<QString>)
+Q_DECLARE_METATYPE(std::optional<quorvane::Instant>)
 
 class TestFrameModels : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void subtitle_data()
+    {
+        QTest::addColumn<bool>("offline");
+        QTest::addColumn<bool>("saving");
+        QTest::addColumn<std::optional<Instant>>("lastRefresh");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<QString>("expected");
+        const std::optional<Instant> at = QDateTime(QDate(2026, 3, 10), QTime(13, 40), Qt::UTC);
+        const QString us = u"en_US"_s, ny = u"America/New_York"_s;
+        QTest::newRow("offline wins over saving") << true << true << at << us << ny << u"Offline"_s;
+        QTest::newRow("saving wins over the time") << false << true << at << us << ny << u"Saving…"_s;
+        QTest::newRow("updated, in the user's zone and 12-hour clock")
+            << false << false << at << us << ny << u"Updated 9:40\u202FAM"_s;
+        QTest::newRow("updated, 24-hour locale and another zone")
+            << false << false << at << u"de_DE"_s << u"Europe/Berlin"_s << u"Updated 14:40"_s;
+        QTest::newRow("nothing yet") << false << false << std::optional<Instant>() << us << ny << QString();
+    }
+    void subtitle()
+    {
+        QFETCH(bool, offline);
+        QFETCH(bool, saving);
+        QFETCH(std::optional<Instant>, lastRefresh);
+        QFETCH(QString, locale);
+        QFETCH(QString, zone);
+        QTEST(MainWindowText::subtitle(offline, saving, lastRefresh, locale, zone), "expected");
+    }
+
+    // The footer's initials and name, from the account's name as typed.
+    void account_data()
+    {
+        QTest::addColumn<std::optional<QString>>("name");
+        QTest::addColumn<QString>("initials");
+        QTest::addColumn<QString>("shown");
+        const auto named = [](const QString &name, const QString &initials) {
+            QTest::newRow(qPrintable(name)) << std::optional<QString>(name) << initials << name;
+        };
+        named(u"Anna Maria Lopez"_s, u"AM"_s);
+        named(u"  ilse   van Varga "_s, u"iv"_s); // case as typed, extra blanks dropped
+        named(u"   "_s, QString());
+        named(u"\U0001F469\u200D\U0001F4BB E\u0301mile"_s, u"\U0001F469\u200D\U0001F4BB\u00C9"_s); // whole characters
+        QTest::newRow("no name") << std::optional<QString>() << u"?"_s << u"Not signed in"_s;
+    }
+    void account()
+    {
+        QFETCH(std::optional<QString>, name);
+        QTEST(MainWindowText::initials(name), "initials");
+        QTEST(MainWindowText::accountName(name), "shown");
+    }
+
     // Meetings that end leave the badges at the next minute tick, without any refresh.
     void badgesFollowTheClock()
     {
         FixtureApp app;
         SectionListModel rows;
-        QAbstractItemModelTester tester(&rows, qtest);
+        QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
         rows.setApp(&app.model());
+        const auto badge = [&rows] { return rows.data(rows.index(0, 0), SectionListModel::BadgeRole).toInt(); };
         QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
-        QCOMPARE(roleData(rows, 0, SectionListModel::BadgeRole).toInt(), int(app.model().today().size()));
-        QVERIFY(roleData(rows, 0, SectionListModel::BadgeRole).toInt() > 0);
+        QVERIFY(badge() > 0);
+        QCOMPARE(badge(), int(app.model().today().size()));
         app.clock.set(QDateTime(QDate(2026, 3, 11), QTime(3, 59), Qt::UTC)); // 23:59 in New York (EDT)
         Q_EMIT app.model().ticked();
-        QVERIFY(!changed.isEmpty());
-        QVERIFY(changed.last().at(2).value<QList<int>>().contains(SectionListModel::BadgeRole));
-        QCOMPARE(roleData(rows, 0, SectionListModel::BadgeRole).toInt(), 0);
+        QVERIFY(!changed.isEmpty() && changed.last().at(2).value<QList<int>>().contains(SectionListModel::BadgeRole));
+        QCOMPARE(badge(), 0);
     }
 
-    // One row per active type, on the server the user set; none once nothing is active.
-    void shareLinks()
-    {
-        FixtureApp app;
-        ShareLinkModel links;
-        QAbstractItemModelTester tester(&links, qtest);
-        links.setApp(&app.model());
-        QSignalSpy counted(&links, &ShareLinkModel::countChanged);
-        app.model().setServerURL(u"https://book.example.org"_s);
-        const QList<EventType> active = app.model().activeTypes();
-        QVERIFY(active.size() < app.model().eventTypes().size()); // the fixture has an inactive type
-        QCOMPARE(links.count(), int(active.size()));
-        for (int row = 0; row < links.count(); ++row) {
-            const EventType &type = active[row];
-            const QString link = u"https://book.example.org/ilse/"_s + type.slug;
-            QCOMPARE(roleData(links, row, ShareLinkModel::TitleRole).toString(), type.title);
-            QCOMPARE(roleData(links, row, ShareLinkModel::LinkRole).toString(), link);
-            QCOMPARE(roleData(links, row, ShareLinkModel::ToolTipRole).toString(), u"Copy "_s + link);
-            QCOMPARE(roleData(links, row, ShareLinkModel::AccessibleRole).toString(), u"Copy link for "_s + type.title);
-            QCOMPARE(roleData(links, row, ShareLinkModel::ColorRole).value<QColor>(), QColor(type.colorHex));
-        }
-        QCOMPARE(counted.size(), 0);
-
-        for (EventType &type : app.transport().data.settings->eventTypes)
-            type.isActive = false;
-        QCoro::waitFor(app.model().refresh());
-        QCOMPARE(links.count(), 0);
-        QCOMPARE(counted.size(), 1);
-    }
-
-    // The frame's texts follow the model: signed in; after a refresh that lost the calendar
-    // and the account's name; offline. (Signed out, the hero shows: tst_main_window.)
+    // Signed in; a refresh that lost the calendar and the account's name; offline.
     void frameFollowsTheModel()
     {
         FixtureApp app;
         MainWindowModel frame;
         frame.setApp(&app.model());
-        QCOMPARE(frame.subtitle(), QString());
         QCOMPARE(frame.initials(), u"IV"_s);
-        QCOMPARE(frame.accountName(), u"Ilse Varga"_s);
         QCOMPARE(frame.statusText(), u"Live on Google Calendar"_s);
+        QCOMPARE(frame.statusColor(), Tints::color(Tint::green));
         QVERIFY(!frame.showsSignInHero());
 
         QSignalSpy changed(&frame, &MainWindowModel::changed);
@@ -98,13 +109,14 @@ private Q_SLOTS:
         QCOMPARE(frame.subtitle(), u"Updated 9:40\u202FAM"_s);
         QCOMPARE(frame.statusText(), u"Calendar not connected"_s);
         QCOMPARE(frame.statusColor(), Tints::color(Tint::orange));
-        QCOMPARE(frame.initials(), u"?"_s);
         QCOMPARE(frame.accountName(), u"Not signed in"_s);
 
+        app.transport().data.google->connected = true;
         app.transport().mode = test::FixtureTransport::Mode::fail;
         QCoro::waitFor(app.model().refresh());
         QCOMPARE(frame.subtitle(), u"Offline"_s);
         QCOMPARE(frame.statusText(), u"Offline"_s);
+        QCOMPARE(frame.statusColor(), Tints::color(Tint::secondary));
     }
 };
 

@@ -4,10 +4,8 @@
 #include "ui/components/ItemLookup.h"
 
 #include <QGuiApplication>
-#include <QQmlComponent>
 #include <QQuickStyle>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;
@@ -15,15 +13,12 @@ using namespace quorvane::test;
 
 namespace {
 
-// The shell as the app loads it, on the fixture, with every QML complaint kept.
-struct ShellRig {
+// The shell as the app loads it, on the fixture app (which outlives it).
+struct ShellRig : FixtureApp, View {
     explicit ShellRig(FixtureApp::Options options = {})
-        : app(options)
+        : FixtureApp(options), View({}, QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s))
     {
-        engine.load(QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s));
     }
-
-    // The shown window with that id, and how many with that id were made.
     [[nodiscard]] static QQuickWindow *window(const QString &id)
     {
         for (QWindow *w : QGuiApplication::topLevelWindows()) {
@@ -32,41 +27,15 @@ struct ShellRig {
         }
         return nullptr;
     }
-    [[nodiscard]] static int made(const QString &id)
+    [[nodiscard]] static qsizetype made(const QString &id)
     {
         const QWindowList all = QGuiApplication::topLevelWindows();
-        return int(std::count_if(all.cbegin(), all.cend(), [&](const QWindow *w) { return w->objectName() == id; }));
+        return std::count_if(all.cbegin(), all.cend(), [&](const QWindow *w) { return w->objectName() == id; });
     }
-    // A menu action or item of the main window, by its object name.
-    [[nodiscard]] QObject *menuEntry(const QString &name) const
-    {
-        QQuickWindow *main = window(u"main"_s);
-        auto *bar = main ? main->property("menuBar").value<QObject *>() : nullptr;
-        return bar ? bar->findChild<QObject *>(name) : nullptr;
-    }
-    [[nodiscard]] int refreshes() { return int(app.transport().requested.count(u"GET sync/me"_s)); }
-    [[nodiscard]] QString section() { return app.model().property("section").toString(); }
-    void keyClick(int key, int modifiers)
-    {
-        QQuickWindow *main = window(u"main"_s);
-        main->requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(main));
-        QTest::keyClick(main, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    }
-
-    FixtureApp app;
-    ItemLookup::Engine engine;
+    [[nodiscard]] int refreshes() { return int(transport().requested.count(u"GET sync/me"_s)); }
 };
 
-#define NO_WARNINGS(rig) QVERIFY2((rig).engine.warnings.isEmpty(), qPrintable((rig).engine.warnings.join(u'\n')))
-
-// What a click on a menu entry does: an Action triggers; an item triggers its action.
-bool trigger(QObject *entry)
-{
-    if (auto *action = entry->property("action").value<QObject *>())
-        entry = action;
-    return QMetaObject::invokeMethod(entry, "trigger");
-}
+#define NO_WARNINGS(rig) QVERIFY2((rig).warnings.isEmpty(), qPrintable((rig).warnings.join(u'\n')))
 
 } // namespace
 
@@ -77,19 +46,14 @@ class TestShell : public QObject
 private Q_SLOTS:
     void initTestCase() { FixtureApp::registerQmlSingletons(); }
 
-    // Each window is made when first asked for, fitted to its view where it has no size of
-    // its own, and shown again after closing; an id that names no window opens nothing.
+    // Each window is made when first asked for, and shown again after closing.
     void windows()
     {
         ShellRig rig;
-        const int before = int(QGuiApplication::topLevelWindows().size());
-        rig.app.shell().open(u"popover"_s);
-        rig.app.shell().open(QString());
-        QCOMPARE(int(QGuiApplication::topLevelWindows().size()), before);
         for (const QString &id : {u"main"_s, u"share"_s, u"onboarding"_s, u"about"_s, u"settings"_s}) {
             QCOMPARE(ShellRig::made(id), id == u"main"_s ? 1 : 0);
-            rig.app.shell().open(id);
-            rig.app.shell().open(id);
+            rig.shell().open(id);
+            rig.shell().open(id);
             QQuickWindow *window = ShellRig::window(id);
             QVERIFY2(window, qPrintable(id));
             if (id == u"onboarding"_s || id == u"about"_s) {
@@ -100,7 +64,7 @@ private Q_SLOTS:
             }
             window->close();
             QVERIFY(!ShellRig::window(id));
-            rig.app.shell().open(id);
+            rig.shell().open(id);
             QVERIFY(ShellRig::window(id));
             QCOMPARE(ShellRig::made(id), 1);
         }
@@ -121,131 +85,80 @@ private Q_SLOTS:
         ShellRig rig(FixtureApp::Options{.onboarded = onboarded});
         QTRY_COMPARE(rig.refreshes(), 1);
         QCOMPARE(bool(ShellRig::window(u"onboarding"_s)), !onboarded);
-
         if (QQuickWindow *guide = ShellRig::window(u"onboarding"_s))
             guide->close(); // closed without finishing
         ShellRig::window(u"main"_s)->close();
         QTest::qWait(50);
         QCOMPARE(rig.refreshes(), 1); // closing starts nothing
-        rig.app.shell().open(u"main"_s);
+        rig.shell().open(u"main"_s);
         QTRY_COMPARE(rig.refreshes(), 2);
         QCOMPARE(bool(ShellRig::window(u"onboarding"_s)), !onboarded);
         NO_WARNINGS(rig);
     }
 
-    // A menu entry, clicked or by its key with every menu closed, opens a window, picks a
-    // section or raises a flag of the model.
+    // A menu entry, clicked or by its key with every menu closed, does what it names.
     void menuEntries_data()
     {
         QTest::addColumn<QString>("entry");
-        QTest::addColumn<int>("key"); // 0: the entry has none
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<QString>("opens");   // a window id, or empty
-        QTest::addColumn<QString>("section"); // App.section afterwards; empty: unchanged
-        QTest::addColumn<QString>("flag");    // an App property that must be true afterwards
-        const int ctrl = Qt::ControlModifier, ctrlShift = Qt::ControlModifier | Qt::ShiftModifier;
-        const QString none;
-        QTest::newRow("Share Times") << u"shareTimes"_s << int(Qt::Key_S) << ctrlShift << u"share"_s << none << none;
-        QTest::newRow("New Poll") << u"newPoll"_s << int(Qt::Key_N) << ctrlShift << none << u"polls"_s
-                                  << u"showNewPoll"_s;
-        QTest::newRow("Settings") << u"settings"_s << int(Qt::Key_Comma) << ctrl << u"settings"_s << none << none;
-        QTest::newRow("Command Palette") << u"commandPalette"_s << 0 << 0 << none << none << u"showPalette"_s;
-        QTest::newRow("Welcome Guide") << u"welcomeGuide"_s << 0 << 0 << u"onboarding"_s << none << none;
-        QTest::newRow("About") << u"about"_s << 0 << 0 << u"about"_s << none << none;
-        QTest::newRow("Made by") << u"madeBy"_s << 0 << 0 << u"about"_s << none << none;
-        QTest::newRow("Go Today") << u"go.today"_s << 0 << 0 << none << u"today"_s << none;
-        QTest::newRow("Go Types") << u"go.types"_s << int(Qt::Key_3) << ctrl << none << u"types"_s << none;
-        QTest::newRow("Go Insights") << u"go.insights"_s << 0 << 0 << none << u"insights"_s << none;
+        QTest::addColumn<QKeySequence>("keys"); // none: the entry has no key
+        QTest::addColumn<QString>("effect");
+        const QKeySequence none;
+        QTest::newRow("Share Times") << u"shareTimes"_s << QKeySequence(u"Ctrl+Shift+S"_s) << u"window share"_s;
+        QTest::newRow("New Poll") << u"newPoll"_s << QKeySequence(u"Ctrl+Shift+N"_s) << u"section polls, showNewPoll"_s;
+        QTest::newRow("Settings") << u"settings"_s << QKeySequence(u"Ctrl+,"_s) << u"window settings"_s;
+        QTest::newRow("Quit") << u"quit"_s << QKeySequence(u"Ctrl+Q"_s) << u"quit"_s;
+        QTest::newRow("Command Palette") << u"commandPalette"_s << QKeySequence(u"Ctrl+K"_s) << u"showPalette"_s;
+        QTest::newRow("Join Next Meeting") << u"joinNext"_s << QKeySequence(u"Ctrl+Shift+J"_s)
+                                           << u"join https://meet.google.com/qvn-0001-ilse"_s;
+        QTest::newRow("Welcome Guide") << u"welcomeGuide"_s << none << u"window onboarding"_s;
+        QTest::newRow("About") << u"about"_s << none << u"window about"_s;
+        QTest::newRow("Made by") << u"madeBy"_s << none << u"window about"_s;
+        QTest::newRow("Go Today") << u"go.today"_s << none << u"section today"_s;
+        QTest::newRow("Go Types") << u"go.types"_s << QKeySequence(u"Ctrl+3"_s) << u"section types"_s;
+        QTest::newRow("Go Insights") << u"go.insights"_s << none << u"section insights"_s;
     }
     void menuEntries()
     {
         QFETCH(QString, entry);
-        QFETCH(int, key);
-        QFETCH(int, modifiers);
-        QFETCH(QString, opens);
-        QFETCH(QString, section);
-        QFETCH(QString, flag);
-
+        QFETCH(QKeySequence, keys);
+        QFETCH(QString, effect);
         for (const bool byKey : {false, true}) {
-            if (byKey && !key)
+            if (byKey && keys.isEmpty())
                 break;
             ShellRig rig;
-            rig.app.model().setProperty("section", u"bookings"_s);
-            QObject *item = rig.menuEntry(entry);
+            QSignalSpy quit(&rig.shell(), &ShellController::quitRequested);
+            rig.model().setProperty("section", u"bookings"_s);
+            // The main window's menu action or item of that name.
+            QObject *item = ShellRig::window(u"main"_s)->property("menuBar").value<QObject *>()->findChild<QObject *>(entry);
             QVERIFY2(item && item->property("enabled").toBool(), qPrintable(entry));
-            if (byKey)
-                rig.keyClick(key, modifiers);
-            else
-                QVERIFY(trigger(item));
-
-            if (!opens.isEmpty())
-                QVERIFY2(ShellRig::window(opens), qPrintable(opens));
-            QCOMPARE(rig.section(), section.isEmpty() ? u"bookings"_s : section);
-            if (!flag.isEmpty())
-                QVERIFY(rig.app.model().property(flag.toLatin1()).toBool());
+            if (byKey) {
+                QQuickWindow *main = ShellRig::window(u"main"_s);
+                main->requestActivate();
+                QVERIFY(QTest::qWaitForWindowActive(main));
+                QTest::keySequence(main, keys);
+            } else {
+                // A click on an item triggers its action.
+                QObject *action = item->property("action").value<QObject *>();
+                QVERIFY(QMetaObject::invokeMethod(action ? action : item, "trigger"));
+            }
+            QStringList effects;
+            for (const QString &id : {u"share"_s, u"settings"_s, u"onboarding"_s, u"about"_s}) {
+                if (ShellRig::window(id))
+                    effects << u"window "_s + id;
+            }
+            if (const QString section = rig.model().property("section").toString(); section != u"bookings"_s)
+                effects << u"section "_s + section;
+            for (const char *flag : {"showNewPoll", "showPalette"}) {
+                if (rig.model().property(flag).toBool())
+                    effects << QString::fromLatin1(flag);
+            }
+            for (const QUrl &url : std::as_const(rig.opened))
+                effects << u"join "_s + url.toString();
+            if (!quit.isEmpty())
+                effects << u"quit"_s;
+            QCOMPARE(effects.join(u", "_s), effect);
             NO_WARNINGS(rig);
         }
-    }
-
-    void quitEndsTheApp()
-    {
-        ShellRig rig;
-        QSignalSpy quit(&rig.app.shell(), &ShellController::quitRequested);
-        QVERIFY(trigger(rig.menuEntry(u"quit"_s)));
-        QCOMPARE(quit.size(), 1);
-    }
-
-    // Join Next Meeting follows the next booking as time passes.
-    void joinNext_data()
-    {
-        QTest::addColumn<bool>("emptyData");
-        QTest::addColumn<int>("hoursLater");
-        QTest::addColumn<QString>("joins"); // the link opened; empty: disabled
-        QTest::newRow("meeting in progress") << false << 0 << u"https://meet.google.com/qvn-0001-ilse"_s;
-        QTest::newRow("next has no link") << false << 70 << QString();
-        QTest::newRow("nothing booked") << true << 0 << QString();
-    }
-    void joinNext()
-    {
-        QFETCH(bool, emptyData);
-        QFETCH(int, hoursLater);
-        QFETCH(QString, joins);
-        ShellRig rig(FixtureApp::Options{.emptyData = emptyData});
-        QObject *item = rig.menuEntry(u"joinNext"_s);
-        QVERIFY(item);
-        rig.app.clock.advance(std::chrono::hours(hoursLater));
-        Q_EMIT rig.app.model().ticked();
-        QCOMPARE(item->property("enabled").toBool(), !joins.isEmpty());
-        rig.keyClick(Qt::Key_J, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(rig.app.opened, joins.isEmpty() ? QList<QUrl>() : QList<QUrl>{QUrl(joins)});
-    }
-
-    // A window whose view another module hasn't provided yet says so, quietly.
-    void aViewHookStandsInForAMissingView_data()
-    {
-        QTest::addColumn<bool>("present");
-        QTest::newRow("view present") << true;
-        QTest::newRow("view missing") << false;
-    }
-    void aViewHookStandsInForAMissingView()
-    {
-        QFETCH(bool, present);
-        QTemporaryDir folder;
-        const QString view = folder.filePath(u"View.qml"_s);
-        if (present) {
-            QFile file(view);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("import QtQuick\nItem { implicitWidth: 333; implicitHeight: 222 }\n");
-        }
-        ShellRig rig;
-        QQmlComponent hook(&rig.engine);
-        hook.setData("import Quorvane.Shell\nViewHook { title: \"Later\" }\n", QUrl(u"qrc:/Hook.qml"_s));
-        std::unique_ptr<QObject> item(hook.createWithInitialProperties({{u"source"_s, QUrl::fromLocalFile(view)}}));
-        QVERIFY2(item, qPrintable(hook.errorString()));
-        QCOMPARE(item->property("provided").toBool(), present);
-        QCOMPARE(item->property("implicitWidth").toInt(), present ? 333 : 480);
-        QCOMPARE(item->property("implicitHeight").toInt(), present ? 222 : 360);
-        NO_WARNINGS(rig);
     }
 };
 
