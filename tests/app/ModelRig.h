@@ -1,12 +1,12 @@
 #pragma once
 
-#include "AppModel.h"
+#include "model/AppModel.h"
 #include "Clipboard.h"
 #include "support/FakeNotificationServer.h"
 #include "FixedClock.h"
 #include "HTTPTransport.h"
 #include "Keychain.h"
-#include "Preferences.h"
+#include "model/Preferences.h"
 #include "support/PrivateBus.h"
 #include "SandboxHarness.h"
 #include "UrlOpener.h"

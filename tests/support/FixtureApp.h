@@ -1,15 +1,15 @@
 #pragma once
 
-#include "AppModel.h"
+#include "model/AppModel.h"
 #include "Clipboard.h"
 #include "FixedClock.h"
 #include "FixtureTransport.h"
 #include "MemoryLoginItem.h"
 #include "MemorySecretStore.h"
-#include "Preferences.h"
+#include "model/Preferences.h"
 #include "QuietNotifier.h"
-#include "SetupServices.h"
-#include "ShellController.h"
+#include "onboarding/SetupServices.h"
+#include "shell/ShellController.h"
 #include "UrlOpener.h"
 
 #include <QSettings>

@@ -4,7 +4,7 @@ import QtQuick
 FixedSizeWindow {
     objectName: "about"
     title: qsTr("About Quorvane")
-    source: "qrc:/qt/qml/Quorvane/Onboarding/AboutView.qml"
+    source: "qrc:/qt/qml/Quorvane/About/AboutView.qml"
     placeholderTitle: qsTr("Quorvane")
     placeholderSymbol: "info.circle"
     placeholderDescription: qsTr("About isn't available in this version yet.")

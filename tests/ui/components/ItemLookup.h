@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IconProvider.h"
+#include "components/IconProvider.h"
 
 #include <QQmlApplicationEngine>
 #include <QQuickItem>

@@ -1,8 +1,8 @@
 // The sign-in panel driven like a user would, against the sandbox on loopback and the test
 // session's keyring. The flow's own rules are tst_device_sign_in's.
-#include "DeviceSignIn.h"
+#include "onboarding/DeviceSignIn.h"
 #include "ModelRig.h"
-#include "SetupServices.h"
+#include "onboarding/SetupServices.h"
 #include "support/MemoryLoginItem.h"
 #include "ui/components/ItemLookup.h"
 

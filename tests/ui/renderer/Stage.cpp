@@ -1,7 +1,7 @@
 #include "Stage.h"
 
-#include "IconProvider.h"
-#include "TrayController.h"
+#include "components/IconProvider.h"
+#include "tray/TrayController.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

@@ -1,0 +1,68 @@
+#include "components/IconProvider.h"
+
+#include "components/Symbols.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QUrlQuery>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane {
+
+namespace {
+constexpr int defaultSide = 16;
+
+QColor colorFromQuery(const QString &query)
+{
+    QString hex = QUrlQuery(query).queryItemValue(u"color"_s, QUrl::FullyDecoded);
+    if (hex.isEmpty())
+        return Qt::black;
+    if (!hex.startsWith(u'#'))
+        hex.prepend(u'#');
+    const QColor color = QColor::fromString(hex);
+    return color.isValid() ? color : QColor(Qt::black);
+}
+} // namespace
+
+IconProvider::IconProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
+
+QImage IconProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
+{
+    const qsizetype question = id.indexOf(u'?');
+    const QString symbol = question < 0 ? id : id.left(question);
+    const QColor color = question < 0 ? QColor(Qt::black) : colorFromQuery(id.mid(question + 1));
+    QSize target = requestedSize;
+    if (target.width() <= 0 && target.height() <= 0)
+        target = QSize(defaultSide, defaultSide);
+    else if (target.width() <= 0)
+        target.setWidth(target.height());
+    else if (target.height() <= 0)
+        target.setHeight(target.width());
+
+    QImage image = render(symbol, color, target);
+    if (size)
+        *size = image.size();
+    return image;
+}
+
+QImage IconProvider::render(const QString &symbol, const QColor &color, const QSize &size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    const QString path = Symbols::file(symbol);
+    if (path.isEmpty())
+        return image;
+    QSvgRenderer renderer(path);
+    if (!renderer.isValid())
+        return image;
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    // Keep the drawn shape's coverage, take the colour from the tint.
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), color);
+    return image;
+}
+
+} // namespace quorvane

@@ -1,0 +1,79 @@
+#include "main/SectionListModel.h"
+
+#include "model/AppBinding.h"
+
+#include <QKeySequence>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane {
+
+SectionListModel::SectionListModel(QObject *parent) : QAbstractListModel(parent), m_sections(Section::allCases()) {}
+
+void SectionListModel::setApp(AppModel *app)
+{
+    if (!AppBinding::follow(m_app, app, this, {&AppModel::snapshotChanged, &AppModel::ticked},
+                            &SectionListModel::badgesChanged))
+        return;
+    badgesChanged();
+    Q_EMIT appChanged();
+}
+
+int SectionListModel::badge(AppSection section, const AppModel &app)
+{
+    switch (section) {
+    case AppSection::today: return int(app.today().size());
+    case AppSection::bookings: return int(app.upcoming().size());
+    default: return 0;
+    }
+}
+
+void SectionListModel::badgesChanged()
+{
+    if (!m_sections.isEmpty())
+        Q_EMIT dataChanged(index(0), index(int(m_sections.size()) - 1), {BadgeRole});
+}
+
+int SectionListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_sections.size());
+}
+
+QVariant SectionListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const AppSection section = m_sections.at(index.row());
+    switch (role) {
+    case IdRole: return Section::id(section);
+    case Qt::DisplayRole:
+    case TitleRole: return Section::title(section);
+    case SymbolRole: return Section::symbol(section);
+    case ShortcutRole: return Section::shortcut(section);
+    case HintRole: {
+        const QKeySequence keys(u"Ctrl+"_s + Section::shortcut(section));
+        return u"Shortcut "_s + keys.toString(QKeySequence::NativeText);
+    }
+    case BadgeRole: return m_app ? badge(section, *m_app) : 0;
+    default: return {};
+    }
+}
+
+QHash<int, QByteArray> SectionListModel::roleNames() const
+{
+    return {{IdRole, "sectionId"},         {TitleRole, "title"}, {SymbolRole, "symbol"},
+            {ShortcutRole, "shortcut"}, {HintRole, "hint"},   {BadgeRole, "badge"}};
+}
+
+int SectionListModel::indexOf(const QString &id) const
+{
+    const std::optional<AppSection> section = Section::fromId(id);
+    return section ? int(m_sections.indexOf(*section)) : -1;
+}
+
+QString SectionListModel::idAt(int row) const
+{
+    return row >= 0 && row < m_sections.size() ? Section::id(m_sections.at(row)) : QString();
+}
+
+} // namespace quorvane

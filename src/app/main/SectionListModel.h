@@ -1,0 +1,58 @@
+#pragma once
+
+#include "model/AppSection.h"
+
+#include <QAbstractListModel>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+namespace quorvane {
+
+class AppModel;
+
+// The sidebar's six section rows, with their badges: Today counts today's meetings,
+// Bookings the upcoming ones, the others show none. Badges follow the snapshot and the clock.
+class SectionListModel : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(quorvane::AppModel *app READ app WRITE setApp NOTIFY appChanged)
+
+public:
+    enum Role {
+        IdRole = Qt::UserRole + 1, // "sectionId" in QML, where "id" is taken
+        TitleRole,
+        SymbolRole,
+        ShortcutRole, // the digit, "1" to "6"
+        HintRole,     // "Shortcut Ctrl+1", for accessibility
+        BadgeRole,    // 0 means no badge
+    };
+    Q_ENUM(Role)
+
+    explicit SectionListModel(QObject *parent = nullptr);
+
+    [[nodiscard]] AppModel *app() const { return m_app; }
+    void setApp(AppModel *app);
+
+    [[nodiscard]] static int badge(AppSection section, const AppModel &app);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    // The row of a section id, or -1.
+    Q_INVOKABLE int indexOf(const QString &id) const;
+    // The section id of a row, or an empty text.
+    Q_INVOKABLE QString idAt(int row) const;
+
+Q_SIGNALS:
+    void appChanged();
+
+private:
+    void badgesChanged();
+
+    QPointer<AppModel> m_app;
+    QList<AppSection> m_sections;
+};
+
+} // namespace quorvane

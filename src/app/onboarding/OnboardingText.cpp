@@ -1,0 +1,40 @@
+#include "onboarding/OnboardingText.h"
+
+#include "shell/KeyLabel.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane::OnboardingText {
+
+QString stepLabel(int step, int steps)
+{
+    return u"Step %1 of %2"_s.arg(step + 1).arg(steps);
+}
+
+bool isLastStep(int step, int steps)
+{
+    return step >= steps - 1;
+}
+
+QString primaryLabel(int step, int steps)
+{
+    return isLastStep(step, steps) ? u"Get Started"_s : u"Continue"_s;
+}
+
+QString paletteTip()
+{
+    return KeyLabel::text(QKeySequence(Qt::ControlModifier | Qt::Key_K)) + u" opens the command palette"_s;
+}
+
+QString shareTip()
+{
+    const QKeySequence hotKey(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier | Qt::Key_S);
+    return KeyLabel::text(hotKey) + u" shares a few open times from anywhere"_s;
+}
+
+QString signedInLabel(const std::optional<Account> &account)
+{
+    return account ? u"Signed in as %1"_s.arg(account->email) : QString();
+}
+
+} // namespace quorvane::OnboardingText

@@ -1,0 +1,81 @@
+#include "shell/LaunchOptions.h"
+
+#include "BuildInfo.h"
+
+#include <QCommandLineParser>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane {
+
+namespace {
+
+LaunchOptions stop(int code, QString message)
+{
+    LaunchOptions out;
+    out.exitCode = code;
+    out.message = std::move(message);
+    return out;
+}
+
+// A server is an http(s) origin; a path would end up in front of every API path.
+bool isServer(const QString &text)
+{
+    const QUrl url(text, QUrl::StrictMode);
+    return url.isValid() && (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty()
+        && (url.path().isEmpty() || url.path() == "/"_L1) && !url.hasQuery() && !url.hasFragment()
+        && url.userInfo().isEmpty();
+}
+
+} // namespace
+
+const QStringList &LaunchOptions::windowIds()
+{
+    static const QStringList ids{u"main"_s, u"share"_s, u"onboarding"_s, u"about"_s, u"settings"_s};
+    return ids;
+}
+
+LaunchOptions LaunchOptions::parse(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Quorvane: your bookings, availability and shared times."_s);
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help."_s);
+    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Show the version."_s);
+    const QCommandLineOption server(u"server"_s, u"Talk to the server at URL from now on."_s, u"URL"_s);
+    const QCommandLineOption share(u"share"_s, u"Open Share Times (in the running Quorvane, if any)."_s);
+    const QCommandLineOption open(u"open"_s, u"Open a window: %1."_s.arg(windowIds().join(u", "_s)), u"ID"_s);
+    const QCommandLineOption selfTest(u"self-test"_s, u"Load the interface, draw it once, report and exit."_s);
+    parser.addOptions({help, version, server, share, open, selfTest});
+
+    if (!parser.parse(arguments))
+        return stop(2, parser.errorText());
+    if (parser.isSet(help))
+        return stop(0, parser.helpText());
+    if (parser.isSet(version))
+        return stop(0, u"Quorvane %1 (%2)"_s.arg(QLatin1StringView(build::version), QLatin1StringView(build::number)));
+    if (!parser.positionalArguments().isEmpty())
+        return stop(2, u"Unexpected argument: %1"_s.arg(parser.positionalArguments().first()));
+
+    LaunchOptions out;
+    if (parser.isSet(server)) {
+        const QString url = parser.value(server);
+        if (!isServer(url))
+            return stop(2, u"--server needs an http or https address without a path, such as https://example.com"_s);
+        out.server = url;
+    }
+    out.selfTest = parser.isSet(selfTest);
+    if (parser.isSet(open)) {
+        out.window = parser.value(open);
+        if (!windowIds().contains(out.window))
+            return stop(2, u"--open takes one of: %1"_s.arg(windowIds().join(u", "_s)));
+    }
+    if (parser.isSet(share)) {
+        if (parser.isSet(open) && out.window != "share"_L1)
+            return stop(2, u"--share and --open %1 ask for two windows; choose one"_s.arg(out.window));
+        out.window = u"share"_s;
+    }
+    return out;
+}
+
+} // namespace quorvane

@@ -1,0 +1,33 @@
+#include "tray/TrayText.h"
+
+#include "Countdown.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane::TrayText {
+
+std::optional<QString> title(const std::optional<Booking> &next, const Instant &now, bool showsNext)
+{
+    if (!showsNext)
+        return std::nullopt;
+    return Countdown::menuTitle(next, now, horizonSeconds);
+}
+
+QString toolTip(const std::optional<QString> &title)
+{
+    return title.value_or(u"Quorvane"_s);
+}
+
+QString iconText(const std::optional<Booking> &next, const Instant &now, bool showsNext)
+{
+    if (!title(next, now, showsNext))
+        return {};
+    const qint64 s = now.msecsTo(next->start) / 1000;
+    if (s <= 0)
+        return u"now"_s;
+    // Rounded up like the title's countdown, so icon and tooltip agree.
+    const qint64 m = (s + 59) / 60;
+    return m < 60 ? u"%1m"_s.arg(m) : u"%1h"_s.arg(m / 60);
+}
+
+} // namespace quorvane::TrayText
