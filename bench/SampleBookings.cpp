@@ -6,18 +6,18 @@ namespace quorvane::bench {
 
 namespace {
 
-const QStringList slugs{QStringLiteral("intro"),  QStringLiteral("demo"),   QStringLiteral("check-in"),
-                        QStringLiteral("review"), QStringLiteral("office"), QStringLiteral("support"),
+const QStringList slugs{QStringLiteral("intro"),   QStringLiteral("demo"),   QStringLiteral("check-in"),
+                        QStringLiteral("review"),  QStringLiteral("office"), QStringLiteral("support"),
                         QStringLiteral("pairing"), QStringLiteral("gone")};
 
 BookingStatus pickStatus(QRandomGenerator &random)
 {
     const int roll = random.bounded(100);
-    return roll < 70 ? BookingStatus::confirmed
-        : roll < 82  ? BookingStatus::pending
-        : roll < 94  ? BookingStatus::cancelled
-        : roll < 98  ? BookingStatus::rejected
-                     : BookingStatus::unknown;
+    return roll < 70   ? BookingStatus::confirmed
+           : roll < 82 ? BookingStatus::pending
+           : roll < 94 ? BookingStatus::cancelled
+           : roll < 98 ? BookingStatus::rejected
+                       : BookingStatus::unknown;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "Startup.h"
 
-#include "Snapshot.h"
 #include "SampleBookings.h"
+#include "Snapshot.h"
 #include "SnapshotCache.h"
 #include "linux/ProcessStats.h"
 
@@ -201,7 +201,9 @@ bool benchStartup(const QString &benchPath, const QString &appPath)
     floorEnv.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
     const QRegularExpression floorLine(u"^(\\d+) (\\d+)"_s);
     const auto quick = median([&] { return runChild(benchPath, {u"--floor"_s, u"quick"_s}, floorEnv, floorLine); });
-    const auto controls = median([&] { return runChild(benchPath, {u"--floor"_s, u"controls"_s}, floorEnv, floorLine); });
+    const auto controls = median([&] {
+        return runChild(benchPath, {u"--floor"_s, u"controls"_s}, floorEnv, floorLine);
+    });
 
     QTemporaryDir home;
     const QProcessEnvironment env = appEnvironment(home);
@@ -216,7 +218,8 @@ bool benchStartup(const QString &benchPath, const QString &appPath)
     std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: bare Qt Quick window", quick->frameMs, quick->residentKiB / 1024);
     std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: Controls and Charts window", controls->frameMs,
                 controls->residentKiB / 1024);
-    std::printf("%-44s %7.0f ms %7.0f MiB\n", "main window, 2,000 cached bookings", app->frameMs, app->residentKiB / 1024);
+    std::printf("%-44s %7.0f ms %7.0f MiB\n", "main window, 2,000 cached bookings", app->frameMs,
+                app->residentKiB / 1024);
     bool ok = report("first frame / Controls+Charts floor", app->frameMs / controls->frameMs, 1.5);
     ok = report("resident memory / Controls+Charts floor", app->residentKiB / controls->residentKiB, 1.5) && ok;
 

@@ -5,8 +5,8 @@
 #include "JSON.h"
 #include "NLAvailability.h"
 #include "SampleBookings.h"
-#include "Startup.h"
 #include "Snapshot.h"
+#include "Startup.h"
 
 #include <QElapsedTimer>
 #include <QJsonDocument>
@@ -21,7 +21,7 @@ using namespace quorvane;
 namespace {
 
 // Keeps the compiler from dropping work whose result is otherwise unused.
-template<class T>
+template <class T>
 void keep(const T &value)
 {
     asm volatile("" : : "g"(&value) : "memory");

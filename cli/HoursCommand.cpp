@@ -49,13 +49,12 @@ int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Prints the weekly hours that a typed sentence would set, "
-                                      "such as \"weekdays 9-5, fri 9am-1pm\"."_s);
+                                     "such as \"weekdays 9-5, fri 9am-1pm\"."_s);
     parser.addHelpOption();
     const QCommandLineOption json(u"json"_s, u"Print the days as one line of JSON."_s);
     parser.addOption(json);
     parser.addPositionalArgument(u"hours"_s, u"This command."_s, u"hours"_s);
-    parser.addPositionalArgument(u"text"_s, u"The sentence; several words are joined with blanks."_s,
-                                 u"TEXT..."_s);
+    parser.addPositionalArgument(u"text"_s, u"The sentence; several words are joined with blanks."_s, u"TEXT..."_s);
     parser.process(QStringList{u"quorvanectl"_s} + arguments);
 
     const QStringList words = parser.positionalArguments().mid(1);

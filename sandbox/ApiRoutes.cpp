@@ -49,7 +49,8 @@ HttpReply bookingList(const QString &key, const QList<Booking> &bookings, QJsonO
 
 void installReads(Router &router, Backend &b)
 {
-    router.add("GET", u"/sync/me"_s, Access::token, [&b](const HttpRequest &) { return HttpReply::json(toJson(b.account())); });
+    router.add("GET", u"/sync/me"_s, Access::token,
+               [&b](const HttpRequest &) { return HttpReply::json(toJson(b.account())); });
     router.add("GET", u"/sync/settings"_s, Access::token,
                [&b](const HttpRequest &) { return HttpReply::json(toJson(b.settings())); });
     router.add("GET", u"/sync/bookings"_s, Access::token,
@@ -62,7 +63,8 @@ void installReads(Router &router, Backend &b)
         const Instant serverTime = b.now();
         return bookingList(u"changes"_s, b.changes(since), {{u"serverTime"_s, ISO::secondsString(serverTime)}});
     });
-    router.add("GET", u"/sync/google"_s, Access::token, [&b](const HttpRequest &) { return HttpReply::json(toJson(b.google())); });
+    router.add("GET", u"/sync/google"_s, Access::token,
+               [&b](const HttpRequest &) { return HttpReply::json(toJson(b.google())); });
     router.add("GET", u"/sync/polls"_s, Access::token, [&b](const HttpRequest &) {
         return HttpReply::json(QJsonObject{{u"polls"_s, toJson(b.store().polls())}});
     });
@@ -111,11 +113,12 @@ void installDeviceFlow(Router &router, Backend &b, DeviceFlow &devices)
     router.add("POST", u"/auth/device/start"_s, Access::open, [&b, &devices](const HttpRequest &r) {
         const QJsonValue label = r.jsonObject().value(u"label"_s);
         const DeviceFlow::Started s = devices.start(label.toString());
-        return HttpReply::json(QJsonObject{{u"device_code"_s, s.deviceCode},
-                                           {u"user_code"_s, s.userCode},
-                                           {u"verification_uri_complete"_s, b.baseUrl() + u"/device?code="_s + s.userCode},
-                                           {u"expires_in"_s, DeviceFlow::lifetimeSeconds},
-                                           {u"interval"_s, 3}});
+        return HttpReply::json(
+            QJsonObject{{u"device_code"_s, s.deviceCode},
+                        {u"user_code"_s, s.userCode},
+                        {u"verification_uri_complete"_s, b.baseUrl() + u"/device?code="_s + s.userCode},
+                        {u"expires_in"_s, DeviceFlow::lifetimeSeconds},
+                        {u"interval"_s, 3}});
     });
     router.add("POST", u"/auth/device/poll"_s, Access::open, [&devices](const HttpRequest &r) {
         const QJsonValue code = r.jsonObject().value(u"device_code"_s);

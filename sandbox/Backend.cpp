@@ -28,9 +28,10 @@ QList<CalendarItem> defaultCalendars(const Account &account)
 } // namespace
 
 Backend::Backend(Store &store, Clock clock, QRandomGenerator &random)
-    : m_store(store), m_clock(std::move(clock)), m_random(random)
-{
-}
+    : m_store(store)
+    , m_clock(std::move(clock))
+    , m_random(random)
+{}
 
 Account Backend::account()
 {
@@ -211,8 +212,8 @@ Poll Backend::createPoll(const QString &title, const QString &typeSlug)
         throw RequestError{400, u"A poll needs a title"_s};
     const EventType t = type(typeSlug);
     const HostSettings s = m_store.settings();
-    const QList<Slot> best = SlotEngine::bestOnDifferentDays(openSlots(t, s.horizonDays, QTimeZone()),
-                                                             pollOptionCount, SlotEngine::hostZone(s));
+    const QList<Slot> best = SlotEngine::bestOnDifferentDays(openSlots(t, s.horizonDays, QTimeZone()), pollOptionCount,
+                                                             SlotEngine::hostZone(s));
     if (best.isEmpty())
         throw RequestError{409, u"No open times to offer"_s};
     Poll p{Ids::uuid(m_random), title, t.minutes, false, {}, {}};

@@ -15,8 +15,8 @@ struct Options {
     QCommandLineOption demo{u"demo"_s, u"Fill an empty database with a believable host and half a year of meetings."_s};
     QCommandLineOption seed{u"seed"_s, u"Make the demo data and the simulation repeatable."_s, u"N"_s};
     QCommandLineOption token{u"token"_s, u"Accept this bearer token (may be repeated). It is never printed."_s, u"T"_s};
-    QCommandLineOption autoApprove{u"auto-approve"_s, u"Approve device sign-ins by themselves after this many seconds."_s,
-                                   u"SECONDS"_s};
+    QCommandLineOption autoApprove{u"auto-approve"_s,
+                                   u"Approve device sign-ins by themselves after this many seconds."_s, u"SECONDS"_s};
     QCommandLineOption simulate{u"simulate"_s, u"Have guests book and cancel now and then."_s};
     QCommandLineOption testControls{u"test-controls"_s, u"Serve the /sandbox/ endpoints for tests."_s};
     QCommandLineOption quiet{u"quiet"_s, u"Don't log requests."_s};
@@ -40,7 +40,8 @@ Parsed parse(const QStringList &arguments)
     parser.setApplicationDescription(u"A local stand-in for the Quorvane service, for demos, development and tests."_s);
     const QCommandLineOption help = parser.addHelpOption();
     const Options o;
-    parser.addOptions({o.port, o.printPort, o.db, o.demo, o.seed, o.token, o.autoApprove, o.simulate, o.testControls, o.quiet});
+    parser.addOptions(
+        {o.port, o.printPort, o.db, o.demo, o.seed, o.token, o.autoApprove, o.simulate, o.testControls, o.quiet});
     if (!parser.parse(arguments))
         return {std::nullopt, parser.errorText(), true};
     if (parser.isSet(help))

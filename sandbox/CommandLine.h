@@ -6,7 +6,7 @@ namespace quorvane::sandbox::CommandLine {
 
 struct Parsed {
     std::optional<SandboxConfig> config; // none: print `message` and stop
-    QString message;                      // help text, or what was wrong
+    QString message;                     // help text, or what was wrong
     bool failed = false;
 };
 

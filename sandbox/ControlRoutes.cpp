@@ -19,7 +19,8 @@ int wholeNumber(const QJsonObject &body, const QString &key, int fallback, int l
         return fallback;
     const double d = v.toDouble(-1);
     if (!v.isDouble() || d != double(qint64(d)) || d < low || d > high)
-        throw RequestError{400, u"\"%1\" must be a whole number from %2 to %3"_s.arg(key, QString::number(low), QString::number(high))};
+        throw RequestError{400, u"\"%1\" must be a whole number from %2 to %3"_s.arg(key, QString::number(low),
+                                                                                     QString::number(high))};
     return int(d);
 }
 

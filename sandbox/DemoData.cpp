@@ -17,22 +17,26 @@ constexpr int historyDays = 180;
 constexpr int aheadDays = 14;
 constexpr int gapMinutes = 15;
 
-const QStringList firstNames = {
-    u"Priya"_s, u"Tom"_s, u"Lena"_s, u"Marcus"_s, u"Aiko"_s, u"Sofia"_s, u"Daniel"_s, u"Chloé"_s, u"Omar"_s,
-    u"Hannah"_s, u"Mateo"_s, u"Grace"_s, u"Jonas"_s, u"Amara"_s, u"Liam"_s, u"Yuki"_s, u"Noah"_s, u"Elif"_s,
-    u"Ravi"_s, u"Isabel"_s, u"Felix"_s, u"Zoe"_s, u"Samuel"_s, u"Ingrid"_s, u"Kwame"_s, u"Mei"_s, u"Lucas"_s,
-    u"Nora"_s, u"Diego"_s, u"Freya"_s, u"Ahmed"_s, u"Clara"_s};
-const QStringList lastNames = {
-    u"Shah"_s, u"Becker"_s, u"Fischer"_s, u"Hill"_s, u"Tanaka"_s, u"Rossi"_s, u"Okafor"_s, u"Dubois"_s, u"Haddad"_s,
-    u"Murphy"_s, u"García"_s, u"Lindqvist"_s, u"Novak"_s, u"Mensah"_s, u"O'Brien"_s, u"Sato"_s, u"Walker"_s,
-    u"Yılmaz"_s, u"Iyer"_s, u"Costa"_s, u"Wagner"_s, u"Chen"_s, u"Park"_s, u"Andersen"_s, u"Kowalski"_s, u"Nguyen"_s};
-const QStringList domains = {u"gmail.com"_s, u"outlook.com"_s, u"fastmail.com"_s, u"northwind.io"_s,
-                             u"acme.co"_s, u"studio-lumen.com"_s, u"hey.com"_s, u"proton.me"_s};
-const QStringList guestZones = {u"Europe/London"_s, u"America/New_York"_s, u"America/Los_Angeles"_s,
-                                u"Europe/Berlin"_s, u"Asia/Tokyo"_s, u"Australia/Sydney"_s, u"Asia/Kolkata"_s};
-const QStringList notes = {u"Looking forward to it!"_s, u"Could we look at the Q3 numbers?"_s,
-                           u"I'll bring the latest draft."_s, u"Might be a few minutes late, sorry."_s,
-                           u"Happy to switch to a phone call if that's easier."_s, u"First time booking — thanks!"_s};
+const QStringList firstNames = {u"Priya"_s, u"Tom"_s,    u"Lena"_s,   u"Marcus"_s, u"Aiko"_s,  u"Sofia"_s,  u"Daniel"_s,
+                                u"Chloé"_s, u"Omar"_s,   u"Hannah"_s, u"Mateo"_s,  u"Grace"_s, u"Jonas"_s,  u"Amara"_s,
+                                u"Liam"_s,  u"Yuki"_s,   u"Noah"_s,   u"Elif"_s,   u"Ravi"_s,  u"Isabel"_s, u"Felix"_s,
+                                u"Zoe"_s,   u"Samuel"_s, u"Ingrid"_s, u"Kwame"_s,  u"Mei"_s,   u"Lucas"_s,  u"Nora"_s,
+                                u"Diego"_s, u"Freya"_s,  u"Ahmed"_s,  u"Clara"_s};
+const QStringList lastNames = {u"Shah"_s,     u"Becker"_s, u"Fischer"_s, u"Hill"_s,   u"Tanaka"_s, u"Rossi"_s,
+                               u"Okafor"_s,   u"Dubois"_s, u"Haddad"_s,  u"Murphy"_s, u"García"_s, u"Lindqvist"_s,
+                               u"Novak"_s,    u"Mensah"_s, u"O'Brien"_s, u"Sato"_s,   u"Walker"_s, u"Yılmaz"_s,
+                               u"Iyer"_s,     u"Costa"_s,  u"Wagner"_s,  u"Chen"_s,   u"Park"_s,   u"Andersen"_s,
+                               u"Kowalski"_s, u"Nguyen"_s};
+const QStringList domains = {u"gmail.com"_s, u"outlook.com"_s,      u"fastmail.com"_s, u"northwind.io"_s,
+                             u"acme.co"_s,   u"studio-lumen.com"_s, u"hey.com"_s,      u"proton.me"_s};
+const QStringList guestZones = {u"Europe/London"_s, u"America/New_York"_s, u"America/Los_Angeles"_s, u"Europe/Berlin"_s,
+                                u"Asia/Tokyo"_s,    u"Australia/Sydney"_s, u"Asia/Kolkata"_s};
+const QStringList notes = {u"Looking forward to it!"_s,
+                           u"Could we look at the Q3 numbers?"_s,
+                           u"I'll bring the latest draft."_s,
+                           u"Might be a few minutes late, sorry."_s,
+                           u"Happy to switch to a phone call if that's easier."_s,
+                           u"First time booking — thanks!"_s};
 const QStringList focusAnswers = {u"Pricing for the new plan"_s, u"Migrating our team's calendars"_s,
                                   u"Feedback on the prototype"_s, u"Hiring a second designer"_s,
                                   u"Our launch timeline"_s};
@@ -41,7 +45,7 @@ const QStringList companies = {u"Northwind"_s, u"Acme Co"_s, u"Studio Lumen"_s, 
 // Meetings per weekday (Monday … Friday): midweek is busiest, Friday lightest.
 constexpr double weekdayMean[] = {2.2, 3.0, 3.2, 2.8, 1.6};
 
-template<class T>
+template <class T>
 const T &pick(QRandomGenerator &rng, const QList<T> &list)
 {
     return list.at(rng.bounded(int(list.size())));
@@ -88,8 +92,11 @@ class Planner
 {
 public:
     Planner(Store &store, QRandomGenerator &rng, HostSettings settings, Instant now)
-        : m_store(store), m_rng(rng), m_settings(std::move(settings)), m_zone(SlotEngine::hostZone(m_settings)),
-          m_now(std::move(now))
+        : m_store(store)
+        , m_rng(rng)
+        , m_settings(std::move(settings))
+        , m_zone(SlotEngine::hostZone(m_settings))
+        , m_now(std::move(now))
     {
         for (const EventType &t : m_settings.eventTypes)
             m_types.append(t);
@@ -200,7 +207,7 @@ Booking Planner::booking(const Instant &start, const EventType &type, BookingSta
     }
     QList<Answer> answers;
     for (const QString &q : type.questions) {
-        const QString a = q.startsWith(u"Company"_s) ? pick(m_rng, companies)
+        const QString a = q.startsWith(u"Company"_s)       ? pick(m_rng, companies)
                           : q.startsWith(u"Best number"_s) ? u"+44 20 7946 0%1"_s.arg(100 + m_rng.bounded(900))
                                                            : pick(m_rng, focusAnswers);
         answers.append({q, a});
@@ -270,13 +277,14 @@ void seedToday(Planner &planner, const Instant &now, const QTimeZone &zone)
     const Instant floor = QDateTime::fromSecsSinceEpoch(now.toSecsSinceEpoch() / quarter * quarter, Qt::UTC);
     const QDate today = now.toTimeZone(zone).date();
     const QList<EventType> &t = planner.types();
-    const QList<QPair<qint64, int>> plan = {{-15 * 60, 0}, {60 * 60, 1}, {195 * 60, 2}, {285 * 60, 0},
-                                            {-150 * 60, 2}, {-300 * 60, 0}};
+    const QList<QPair<qint64, int>> plan = {{-15 * 60, 0}, {60 * 60, 1},   {195 * 60, 2},
+                                            {285 * 60, 0}, {-150 * 60, 2}, {-300 * 60, 0}};
     int placed = 0;
     for (const auto &[offset, typeIndex] : plan) {
         const Instant start = floor.addSecs(offset);
         const EventType &type = t.at(typeIndex);
-        if (start.toTimeZone(zone).date() != today || start.addSecs(60LL * type.minutes).toTimeZone(zone).date() != today)
+        if (start.toTimeZone(zone).date() != today
+            || start.addSecs(60LL * type.minutes).toTimeZone(zone).date() != today)
             continue;
         if (offset < 0 && placed >= 3 && start.addSecs(60LL * type.minutes) < now)
             continue;
@@ -310,8 +318,8 @@ Poll poll(QRandomGenerator &rng, const QString &title, const EventType &type, co
 void seedPolls(Store &store, QRandomGenerator &rng, const HostSettings &s, const Instant &now)
 {
     const auto best = [&](const EventType &type) {
-        SlotEngine::Query q{s, type, store.bookingsOverlapping(now.addDays(-1), now.addDays(aheadDays + 1)), now,
-                            s.horizonDays, QTimeZone()};
+        SlotEngine::Query q{s,   type,          store.bookingsOverlapping(now.addDays(-1), now.addDays(aheadDays + 1)),
+                            now, s.horizonDays, QTimeZone()};
         return SlotEngine::bestOnDifferentDays(SlotEngine::slots(q), 4, SlotEngine::hostZone(s));
     };
     store.putPoll(poll(rng, u"Quarterly roadmap review"_s, s.eventTypes.at(1), best(s.eventTypes.at(1)), 5));

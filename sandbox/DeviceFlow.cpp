@@ -20,9 +20,10 @@ QString normalisedUserCode(const QString &code)
 } // namespace
 
 DeviceFlow::DeviceFlow(Store &store, Clock clock, int autoApproveSeconds)
-    : m_store(store), m_clock(std::move(clock)), m_autoApproveSeconds(autoApproveSeconds)
-{
-}
+    : m_store(store)
+    , m_clock(std::move(clock))
+    , m_autoApproveSeconds(autoApproveSeconds)
+{}
 
 bool DeviceFlow::expired(const DeviceGrant &grant) const
 {

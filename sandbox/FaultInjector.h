@@ -10,11 +10,11 @@ namespace quorvane::sandbox {
 
 // How the next requests to one path go wrong.
 struct Fault {
-    std::optional<int> status;       // answer with this status…
-    std::optional<QByteArray> body;  // …and this body (with no status: 200 and this body)
-    int delayMs = 0;                 // wait first; alone it slows a normal answer down
-    bool drop = false;               // close the connection without answering
-    int count = 1;                   // how many requests it strikes
+    std::optional<int> status;      // answer with this status…
+    std::optional<QByteArray> body; // …and this body (with no status: 200 and this body)
+    int delayMs = 0;                // wait first; alone it slows a normal answer down
+    bool drop = false;              // close the connection without answering
+    int count = 1;                  // how many requests it strikes
 };
 
 // Faults planted by tests and demos, keyed by path ("sync/bookings"; a leading slash and

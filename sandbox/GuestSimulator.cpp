@@ -27,8 +27,10 @@ QList<Booking> cancellable(Backend &backend)
 } // namespace
 
 GuestSimulator::GuestSimulator(Backend &backend, int minSeconds, int maxSeconds, QObject *parent)
-    : QObject(parent), m_backend(backend), m_minSeconds(std::max(1, minSeconds)),
-      m_maxSeconds(std::max(m_minSeconds, maxSeconds))
+    : QObject(parent)
+    , m_backend(backend)
+    , m_minSeconds(std::max(1, minSeconds))
+    , m_maxSeconds(std::max(m_minSeconds, maxSeconds))
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, [this] {
@@ -51,8 +53,8 @@ void GuestSimulator::scheduleNext()
 std::optional<Booking> GuestSimulator::step()
 {
     const QList<Booking> active = cancellable(m_backend);
-    const bool cancel = !active.isEmpty()
-                        && (active.size() >= busyEnough || int(m_backend.random().bounded(100)) < cancelPercent);
+    const bool cancel =
+        !active.isEmpty() && (active.size() >= busyEnough || int(m_backend.random().bounded(100)) < cancelPercent);
     try {
         return cancel ? cancelSomething() : bookSomething();
     } catch (const RequestError &) {
@@ -76,7 +78,8 @@ std::optional<Booking> GuestSimulator::bookSomething()
     std::stable_sort(open.begin(), open.end(), [](const Slot &a, const Slot &b) { return a.score > b.score; });
     const Slot slot = open.at(m_backend.random().bounded(int(std::min<qsizetype>(open.size(), favouriteTimes))));
     const DemoData::Guest guest = DemoData::randomGuest(m_backend.random(), s.timezone);
-    GuestBooking g{type.slug, slot.start, guest.name, guest.email, guest.tz, std::nullopt, {}, BookingStatus::confirmed};
+    GuestBooking g{type.slug, slot.start,   guest.name, guest.email,
+                   guest.tz,  std::nullopt, {},         BookingStatus::confirmed};
     for (const QString &q : type.questions)
         g.answers.append({q, u"Happy to explain on the call"_s});
     const Booking b = m_backend.book(g, true);

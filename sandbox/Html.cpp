@@ -53,12 +53,23 @@ QString escape(const QString &text)
     out.reserve(text.size());
     for (const QChar c : text) {
         switch (c.unicode()) {
-        case u'&': out += u"&amp;"_s; break;
-        case u'<': out += u"&lt;"_s; break;
-        case u'>': out += u"&gt;"_s; break;
-        case u'"': out += u"&quot;"_s; break;
-        case u'\'': out += u"&#39;"_s; break;
-        default: out += c;
+        case u'&':
+            out += u"&amp;"_s;
+            break;
+        case u'<':
+            out += u"&lt;"_s;
+            break;
+        case u'>':
+            out += u"&gt;"_s;
+            break;
+        case u'"':
+            out += u"&quot;"_s;
+            break;
+        case u'\'':
+            out += u"&#39;"_s;
+            break;
+        default:
+            out += c;
         }
     }
     return out;
@@ -69,8 +80,8 @@ QString page(const QString &title, const QString &body)
     return u"<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
            "<meta name=\"viewport\" content=\"width=device-width,initial-scale=1\">"
            "<title>%1 · Quorvane</title><style>%2</style></head>\n<body><main>"
-           "<header class=\"brand\"><span class=\"dot\"></span>Quorvane</header>\n%3\n</main></body></html>\n"_s
-        .arg(escape(title), styleSheet, body);
+           "<header class=\"brand\"><span class=\"dot\"></span>Quorvane</header>\n%3\n</main></body></html>\n"_s.arg(
+               escape(title), styleSheet, body);
 }
 
 QString dateTime(const Instant &instant, const QTimeZone &zone)

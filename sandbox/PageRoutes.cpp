@@ -30,7 +30,7 @@ EventType bookableType(Backend &b, const HostSettings &s, const QStringList &cap
 Pages::BookingForm bookingForm(const QUrlQuery &form, const EventType &t)
 {
     Pages::BookingForm f{formValue(form, u"start"_s), formValue(form, u"name"_s), formValue(form, u"email"_s),
-                         formValue(form, u"notes"_s), formValue(form, u"tz"_s), {}};
+                         formValue(form, u"notes"_s), formValue(form, u"tz"_s),   {}};
     for (qsizetype i = 0; i < t.questions.size(); ++i)
         f.answers.append(formValue(form, u"q%1"_s.arg(i)));
     return f;

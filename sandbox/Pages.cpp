@@ -45,10 +45,14 @@ QString typeColor(const HostSettings &settings, const QString &slug)
 QString whereText(const EventType &type)
 {
     switch (type.location) {
-    case MeetingLocation::meet: return u"Google Meet"_s;
-    case MeetingLocation::phone: return u"Phone call"_s;
-    case MeetingLocation::in_person: return u"In person"_s + (type.locationDetail.isEmpty() ? QString() : u", "_s + type.locationDetail);
-    case MeetingLocation::custom: return type.locationDetail.isEmpty() ? u"Custom"_s : type.locationDetail;
+    case MeetingLocation::meet:
+        return u"Google Meet"_s;
+    case MeetingLocation::phone:
+        return u"Phone call"_s;
+    case MeetingLocation::in_person:
+        return u"In person"_s + (type.locationDetail.isEmpty() ? QString() : u", "_s + type.locationDetail);
+    case MeetingLocation::custom:
+        return type.locationDetail.isEmpty() ? u"Custom"_s : type.locationDetail;
     }
     return {};
 }
@@ -112,7 +116,8 @@ QString upcomingList(const Dashboard &d, const QTimeZone &zone)
 
 QString errorPage(int status, const QString &message)
 {
-    return Html::page(u"Error"_s, card(u"<h1>%1</h1><p class=\"muted\">Error %2</p>"_s.arg(escape(message), QString::number(status))));
+    return Html::page(u"Error"_s, card(u"<h1>%1</h1><p class=\"muted\">Error %2</p>"_s.arg(escape(message),
+                                                                                           QString::number(status))));
 }
 
 QString devicePage(const DeviceGrant &grant)
@@ -155,16 +160,18 @@ QString bookingPage(const BookingPage &p)
 {
     const QTimeZone zone = SlotEngine::hostZone(p.settings);
     const QString error = p.error.isEmpty() ? QString() : u"<div class=\"error\">"_s + escape(p.error) + u"</div>"_s;
-    const QString intro = u"<h1>%1</h1><p class=\"muted\">%2 min · %3 · with %4</p><p>%5</p>"
-                          "<p class=\"muted\">Times are shown in %6.</p>"_s.arg(
-                              escape(p.type.title), QString::number(p.type.minutes), escape(whereText(p.type)),
-                              escape(p.settings.owner), escape(p.type.description),
-                              escape(Html::zoneLabel(zone, p.now)));
+    const QString intro =
+        u"<h1>%1</h1><p class=\"muted\">%2 min · %3 · with %4</p><p>%5</p>"
+        "<p class=\"muted\">Times are shown in %6.</p>"_s.arg(
+            escape(p.type.title), QString::number(p.type.minutes), escape(whereText(p.type)), escape(p.settings.owner),
+            escape(p.type.description), escape(Html::zoneLabel(zone, p.now)));
     const QString tz = p.form.tz.isEmpty() ? QString::fromUtf8(zone.id()) : p.form.tz;
     const QString form =
-        u"<form method=\"post\">"_s + slotPicker(p, zone) + field(u"Your name"_s, textInput(u"name"_s, u"text"_s, p.form.name))
+        u"<form method=\"post\">"_s + slotPicker(p, zone)
+        + field(u"Your name"_s, textInput(u"name"_s, u"text"_s, p.form.name))
         + field(u"Email"_s, textInput(u"email"_s, u"email"_s, p.form.email)) + questionFields(p)
-        + field(u"Anything to add? (optional)"_s, u"<textarea name=\"notes\">"_s + escape(p.form.notes) + u"</textarea>"_s)
+        + field(u"Anything to add? (optional)"_s,
+                u"<textarea name=\"notes\">"_s + escape(p.form.notes) + u"</textarea>"_s)
         + u"<input type=\"hidden\" name=\"tz\" id=\"tz\" value=\"%1\">"_s.arg(escape(tz))
         + u"<script>try{document.getElementById('tz').value=Intl.DateTimeFormat().resolvedOptions().timeZone}"
           "catch(e){}</script><button type=\"submit\">Book</button></form>"_s;
@@ -200,14 +207,15 @@ QString pollPage(const Poll &poll, const QTimeZone &zone, const QString &error, 
                     QString::number(i), escape(Html::dateTime(o.start, zone)), QString::number(100 * o.votes / top),
                     QString::number(o.votes));
     }
-    const QString voters = poll.voters.isEmpty() ? u"No votes yet"_s : u"Voters: "_s + escape(poll.voters.join(u", "_s));
+    const QString voters =
+        poll.voters.isEmpty() ? u"No votes yet"_s : u"Voters: "_s + escape(poll.voters.join(u", "_s));
     const QString errorBox = error.isEmpty() ? QString() : u"<div class=\"error\">"_s + escape(error) + u"</div>"_s;
-    const QString body = u"<h1>%1</h1><p class=\"muted\">%2 min · times in %3 · tick every time that works for you</p>"
-                         "<form method=\"post\">%4<ul class=\"plain\">%5</ul>"_s.arg(
-                             escape(poll.title), QString::number(poll.minutes), escape(Html::zoneLabel(zone, now)),
-                             errorBox, rows)
-                         + field(u"Your name"_s, textInput(u"name"_s, u"text"_s, QString()))
-                         + u"<button type=\"submit\">Vote</button></form><p class=\"muted\">"_s + voters + u"</p>"_s;
+    const QString body =
+        u"<h1>%1</h1><p class=\"muted\">%2 min · times in %3 · tick every time that works for you</p>"
+        "<form method=\"post\">%4<ul class=\"plain\">%5</ul>"_s.arg(escape(poll.title), QString::number(poll.minutes),
+                                                                    escape(Html::zoneLabel(zone, now)), errorBox, rows)
+        + field(u"Your name"_s, textInput(u"name"_s, u"text"_s, QString()))
+        + u"<button type=\"submit\">Vote</button></form><p class=\"muted\">"_s + voters + u"</p>"_s;
     return Html::page(poll.title, card(body));
 }
 
@@ -229,13 +237,13 @@ QString dashboard(const Dashboard &d)
 {
     const QTimeZone zone = SlotEngine::hostZone(d.settings);
     const QString name = d.account.name.value_or(d.account.email);
-    const QString calendar = d.google.connected
-                                 ? u"<span class=\"ok\">connected</span> as "_s + escape(d.google.email.value_or(QString()))
-                                 : u"not connected"_s;
-    const QString head = card(u"<h1>%1</h1><p class=\"muted\">%2 · <a href=\"/%3\">booking page</a> · %4</p>"
-                              "<p>Google Calendar %5</p>"_s.arg(
-                                  escape(name), escape(d.account.email), escape(d.settings.handle),
-                                  escape(Html::zoneLabel(zone, d.now)), calendar));
+    const QString calendar =
+        d.google.connected ? u"<span class=\"ok\">connected</span> as "_s + escape(d.google.email.value_or(QString()))
+                           : u"not connected"_s;
+    const QString head =
+        card(u"<h1>%1</h1><p class=\"muted\">%2 · <a href=\"/%3\">booking page</a> · %4</p>"
+             "<p>Google Calendar %5</p>"_s.arg(escape(name), escape(d.account.email), escape(d.settings.handle),
+                                               escape(Html::zoneLabel(zone, d.now)), calendar));
     const QString stats = u"<div class=\"stats\"><div class=\"stat\"><b>%1</b>upcoming</div><div class=\"stat\"><b>%2"
                           "</b>met in 30 days</div><div class=\"stat\"><b>%3</b>cancelled in 30 days</div>"
                           "<div class=\"stat\"><b>%4</b>polls</div></div><br>"_s.arg(

@@ -26,8 +26,8 @@ bool isMachinePath(const QStringList &segments)
 void Router::add(const QByteArray &method, const QString &pattern, Access access, Handler handler)
 {
     Route route{method, segmentsOf(pattern), 0, access, std::move(handler)};
-    route.literals = int(std::count_if(route.segments.cbegin(), route.segments.cend(),
-                                       [](const QString &s) { return s != u"*"; }));
+    route.literals =
+        int(std::count_if(route.segments.cbegin(), route.segments.cend(), [](const QString &s) { return s != u"*"; }));
     m_routes.append(std::move(route));
 }
 

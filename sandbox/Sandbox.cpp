@@ -29,10 +29,13 @@ void logLine(const QString &line)
 } // namespace
 
 Sandbox::Sandbox(SandboxConfig config, Clock clock, QObject *parent)
-    : QObject(parent), m_config(std::move(config)), m_clock(std::move(clock)), m_random(seedOf(m_config)),
-      m_backend(m_store, m_clock, m_random), m_devices(m_store, m_clock, m_config.autoApproveSeconds)
-{
-}
+    : QObject(parent)
+    , m_config(std::move(config))
+    , m_clock(std::move(clock))
+    , m_random(seedOf(m_config))
+    , m_backend(m_store, m_clock, m_random)
+    , m_devices(m_store, m_clock, m_config.autoApproveSeconds)
+{}
 
 Sandbox::~Sandbox() = default;
 
@@ -72,7 +75,8 @@ bool Sandbox::start(QString *error)
     if (m_config.simulate) {
         m_simulator = new GuestSimulator(m_backend, m_config.simulateMinSeconds, m_config.simulateMaxSeconds, this);
         if (m_config.logRequests)
-            connect(m_simulator, &GuestSimulator::acted, this, [](const QString &what) { logLine(u"a guest "_s + what); });
+            connect(m_simulator, &GuestSimulator::acted, this,
+                    [](const QString &what) { logLine(u"a guest "_s + what); });
         m_simulator->start();
     }
     return true;

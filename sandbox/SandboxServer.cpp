@@ -18,14 +18,22 @@ namespace {
 QByteArray methodName(QHttpServerRequest::Method method)
 {
     switch (method) {
-    case QHttpServerRequest::Method::Get: return "GET";
-    case QHttpServerRequest::Method::Put: return "PUT";
-    case QHttpServerRequest::Method::Delete: return "DELETE";
-    case QHttpServerRequest::Method::Post: return "POST";
-    case QHttpServerRequest::Method::Head: return "HEAD";
-    case QHttpServerRequest::Method::Options: return "OPTIONS";
-    case QHttpServerRequest::Method::Patch: return "PATCH";
-    default: return "OTHER";
+    case QHttpServerRequest::Method::Get:
+        return "GET";
+    case QHttpServerRequest::Method::Put:
+        return "PUT";
+    case QHttpServerRequest::Method::Delete:
+        return "DELETE";
+    case QHttpServerRequest::Method::Post:
+        return "POST";
+    case QHttpServerRequest::Method::Head:
+        return "HEAD";
+    case QHttpServerRequest::Method::Options:
+        return "OPTIONS";
+    case QHttpServerRequest::Method::Patch:
+        return "PATCH";
+    default:
+        return "OTHER";
     }
 }
 
@@ -52,9 +60,10 @@ void drop(QTcpSocket *socket)
 } // namespace
 
 SandboxServer::SandboxServer(const Router &router, FaultInjector &faults, QObject *parent)
-    : QAbstractHttpServer(parent), m_router(router), m_faults(faults)
-{
-}
+    : QAbstractHttpServer(parent)
+    , m_router(router)
+    , m_faults(faults)
+{}
 
 HttpRequest SandboxServer::toValue(const QHttpServerRequest &request)
 {
@@ -70,8 +79,10 @@ HttpRequest SandboxServer::toValue(const QHttpServerRequest &request)
 HttpReply SandboxServer::replyFor(const HttpRequest &request, const std::optional<Fault> &fault) const
 {
     if (fault && (fault->status || fault->body)) {
-        return HttpReply{fault->status.value_or(200), "application/json",
-                         fault->body.value_or(QByteArray(R"({"error":"Injected failure"})")), {}};
+        return HttpReply{fault->status.value_or(200),
+                         "application/json",
+                         fault->body.value_or(QByteArray(R"({"error":"Injected failure"})")),
+                         {}};
     }
     return m_router.dispatch(request);
 }
@@ -91,8 +102,7 @@ bool SandboxServer::handleRequest(const QHttpServerRequest &request, QTcpSocket 
 {
     const qint64 started = monotonicMs();
     HttpRequest value = toValue(request);
-    const std::optional<Fault> fault =
-        value.path.startsWith(u"/sandbox/"_s) ? std::nullopt : m_faults.take(value.path);
+    const std::optional<Fault> fault = value.path.startsWith(u"/sandbox/"_s) ? std::nullopt : m_faults.take(value.path);
     if (fault && fault->delayMs > 0) {
         answerLater(request, socket, std::move(value), *fault);
         return true;

@@ -133,9 +133,8 @@ QList<Slot> slots(const Query &q)
     QList<Slot> out;
     for (int offset = 0; offset < span; ++offset) {
         const QDate date = today.addDays(offset);
-        const auto meetingsThatDay = std::count_if(active.cbegin(), active.cend(), [&](const Booking &b) {
-            return b.start.toTimeZone(zone).date() == date;
-        });
+        const auto meetingsThatDay = std::count_if(
+            active.cbegin(), active.cend(), [&](const Booking &b) { return b.start.toTimeZone(zone).date() == date; });
         if (meetingsThatDay >= q.settings.maxMeetingsPerDay)
             continue;
         for (const Candidate &c : gridOf(q, date, zone)) {

@@ -17,8 +17,8 @@ struct Query {
     EventType type;
     QList<Booking> bookings; // any status; only active ones block time
     Instant now;
-    int days = 14;           // capped by settings.horizonDays
-    QTimeZone guestZone;     // optional; invalid means unknown
+    int days = 14;       // capped by settings.horizonDays
+    QTimeZone guestZone; // optional; invalid means unknown
 };
 
 // Chronological.

@@ -45,7 +45,7 @@ Instant fromMs(qint64 value)
     return QDateTime::fromMSecsSinceEpoch(value, Qt::UTC);
 }
 
-template<class T>
+template <class T>
 T decoded(const QByteArray &json, const char *what)
 {
     Result<T> result = JSON::decode<T>(json);
@@ -66,7 +66,7 @@ void run(QSqlQuery &query)
 }
 
 // Every row's first column, decoded as a record.
-template<class T>
+template <class T>
 QList<T> rows(QSqlQuery &query, const char *what)
 {
     run(query);

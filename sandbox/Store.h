@@ -76,7 +76,8 @@ private:
     [[nodiscard]] std::optional<QByteArray> document(const QString &key);
     void setDocument(const QString &key, const QByteArray &json);
     // `condition` and `order` are fixed texts of this class; values are always bound.
-    [[nodiscard]] QList<Booking> bookingsWhere(const QString &condition, const QVariantList &values, const QString &order);
+    [[nodiscard]] QList<Booking> bookingsWhere(const QString &condition, const QVariantList &values,
+                                               const QString &order);
     [[nodiscard]] std::optional<DeviceGrant> grant(QSqlQuery &query);
 
     QString m_connection;

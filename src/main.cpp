@@ -1,21 +1,21 @@
 // Builds the application's objects, wires them together and loads the QML. Nothing else.
-#include "model/AppModel.h"
-#include "components/IconProvider.h"
-#include "shell/LaunchOptions.h"
 #include "NetworkTransport.h"
-#include "model/Preferences.h"
-#include "shell/SelfTest.h"
-#include "onboarding/SetupServices.h"
-#include "shell/ShellController.h"
-#include "shell/SingleInstance.h"
 #include "SystemClipboard.h"
 #include "SystemClock.h"
-#include "tray/TrayController.h"
 #include "UrlOpener.h"
+#include "components/IconProvider.h"
 #include "linux/AutostartLoginItem.h"
 #include "linux/FreedesktopNotifier.h"
 #include "linux/LibsecretStore.h"
 #include "linux/Login1WakeMonitor.h"
+#include "model/AppModel.h"
+#include "model/Preferences.h"
+#include "onboarding/SetupServices.h"
+#include "shell/LaunchOptions.h"
+#include "shell/SelfTest.h"
+#include "shell/ShellController.h"
+#include "shell/SingleInstance.h"
+#include "tray/TrayController.h"
 
 #include "QuorvaneQmlModules.h"
 
@@ -47,7 +47,7 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(u"Quorvane"_s);
     QApplication::setDesktopFileName(u"com.peldrachen.quorvane"_s);
     QApplication::setWindowIcon(QIcon::fromTheme(u"com.peldrachen.quorvane"_s)); // installed by packaging/
-    QApplication::setQuitOnLastWindowClosed(false); // the tray keeps the app alive
+    QApplication::setQuitOnLastWindowClosed(false);                              // the tray keeps the app alive
     QQuickStyle::setStyle(u"Fusion"_s);
 
     const LaunchOptions options = LaunchOptions::parse(QApplication::arguments());
@@ -84,7 +84,8 @@ int main(int argc, char *argv[])
     env.opener = &opener;
     env.clipboard = &clipboard;
     env.wake = &wake;
-    env.dataDirectory = QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath(u"Quorvane"_s);
+    env.dataDirectory =
+        QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath(u"Quorvane"_s);
     env.locale = locale;
     env.zone = zone;
     AppModel model(env);

@@ -5,7 +5,8 @@
 namespace quorvane {
 
 // Where copied text goes.
-class Clipboard {
+class Clipboard
+{
 public:
     virtual ~Clipboard() = default;
     virtual void setText(const QString &text) = 0;

@@ -5,7 +5,8 @@
 namespace quorvane {
 
 // Where "now" comes from. Injected everywhere, so tests and screenshots run at a fixed moment.
-class Clock {
+class Clock
+{
 public:
     virtual ~Clock() = default;
     [[nodiscard]] virtual Instant now() const = 0;

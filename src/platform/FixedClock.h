@@ -7,9 +7,12 @@
 namespace quorvane {
 
 // A clock that only moves when told to: for tests and the screenshot renderer.
-class FixedClock final : public Clock {
+class FixedClock final : public Clock
+{
 public:
-    explicit FixedClock(Instant at) : m_now(at.toUTC()) {}
+    explicit FixedClock(Instant at)
+        : m_now(at.toUTC())
+    {}
 
     [[nodiscard]] Instant now() const override { return m_now; }
     void set(const Instant &at) { m_now = at.toUTC(); }

@@ -3,7 +3,8 @@
 namespace quorvane {
 
 // Whether the app starts when the user logs in.
-class LoginItem {
+class LoginItem
+{
 public:
     virtual ~LoginItem() = default;
 

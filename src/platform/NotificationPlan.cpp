@@ -30,8 +30,7 @@ NotificationRequest announcement(const ChangeEvent &event, const QString &typeTi
 }
 
 QList<NotificationRequest> reminders(const QList<Booking> &bookings, const Instant &now, int minutesBefore,
-                                     const QHash<QString, QString> &titles, const QString &locale,
-                                     const QString &zone)
+                                     const QHash<QString, QString> &titles, const QString &locale, const QString &zone)
 {
     const qint64 leadSeconds = qint64(std::max(minutesBefore, 1)) * 60;
     const Instant horizon = now.addSecs(reminderHorizonSeconds);
@@ -46,9 +45,9 @@ QList<NotificationRequest> reminders(const QList<Booking> &bookings, const Insta
 
         NotificationRequest request;
         request.identifier = reminderPrefix + b.id;
-        request.title = QStringLiteral("%1 with %2 in %3 min")
-                            .arg(titles.value(b.type, QStringLiteral("Meeting")), b.name,
-                                 QString::number(minutesBefore));
+        request.title =
+            QStringLiteral("%1 with %2 in %3 min")
+                .arg(titles.value(b.type, QStringLiteral("Meeting")), b.name, QString::number(minutesBefore));
         request.body = Formats::format(b.start, QStringLiteral("jmm"), locale, zone);
         if (b.meet)
             request.body += separator + QStringLiteral("Google Meet");

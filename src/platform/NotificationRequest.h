@@ -19,7 +19,7 @@ struct NotificationRequest {
     QString body;
     NotificationCategory category = NotificationCategory::booking;
     QString bookingID;
-    QString meet; // the booking's conference link, empty without one
+    QString meet;                  // the booking's conference link, empty without one
     std::optional<Instant> fireAt; // none: show at once
 
     bool operator==(const NotificationRequest &) const = default;

@@ -13,7 +13,8 @@ namespace quorvane {
 
 // The desktop's notifications as the app uses them: announcements of booking changes, and
 // reminders shortly before meetings that the app keeps pending until they are due.
-class Notifier : public QObject {
+class Notifier : public QObject
+{
     Q_OBJECT
 public:
     using QObject::QObject;

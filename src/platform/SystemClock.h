@@ -5,7 +5,8 @@
 namespace quorvane {
 
 // The wall clock, in UTC.
-class SystemClock final : public Clock {
+class SystemClock final : public Clock
+{
 public:
     [[nodiscard]] Instant now() const override { return QDateTime::currentDateTimeUtc(); }
 };

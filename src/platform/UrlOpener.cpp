@@ -6,8 +6,7 @@ namespace quorvane {
 
 UrlOpener::UrlOpener(Launcher launcher)
     : m_launcher(launcher ? std::move(launcher) : Launcher(&QDesktopServices::openUrl))
-{
-}
+{}
 
 bool UrlOpener::allows(const QUrl &url)
 {

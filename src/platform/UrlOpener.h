@@ -9,7 +9,8 @@ namespace quorvane {
 // The one way the app hands a link to the desktop. Links come from the server (meeting links,
 // booking pages), so only web pages and mail addresses get through: never local files,
 // scripts or other applications' schemes.
-class UrlOpener {
+class UrlOpener
+{
 public:
     using Launcher = std::function<bool(const QUrl &)>;
 

@@ -5,7 +5,8 @@
 namespace quorvane {
 
 // Tells when the machine has come back from sleep, so stale data is reloaded at once.
-class WakeMonitor : public QObject {
+class WakeMonitor : public QObject
+{
     Q_OBJECT
 public:
     using QObject::QObject;

@@ -25,17 +25,18 @@ QCoro::Task<HTTPResponse> RecordingTransport::send(HTTPRequest request, Cancella
 
 int RecordingTransport::count(const QByteArray &method, const QString &path) const
 {
-    return int(std::count_if(sent.cbegin(), sent.cend(), [&](const Sent &r) {
-        return r.method == method && r.path.endsWith(path);
-    }));
+    return int(std::count_if(sent.cbegin(), sent.cend(),
+                             [&](const Sent &r) { return r.method == method && r.path.endsWith(path); }));
 }
 
 ModelRig::ModelRig(int autoApproveSeconds)
-    : server([autoApproveSeconds] {
-        sandbox::SandboxConfig config = sandbox::SandboxHarness::config(true);
-        config.autoApproveSeconds = autoApproveSeconds;
-        return config;
-    }(), defaultNow())
+    : server(
+        [autoApproveSeconds] {
+            sandbox::SandboxConfig config = sandbox::SandboxHarness::config(true);
+            config.autoApproveSeconds = autoApproveSeconds;
+            return config;
+        }(),
+        defaultNow())
     , clock(defaultNow())
     , opener([this](const QUrl &url) {
         opened.append(url);
@@ -64,8 +65,7 @@ bool ModelRig::ready(QString *why)
     notifications = std::make_unique<FakeNotificationServer>(bus.connect(u"notifications"_s));
     if (!notifications->start())
         return fail(u"the fake notification server did not start"_s);
-    notifier = std::make_unique<FreedesktopNotifier>(bus.connect(u"app"_s), clock, u"en_US"_s,
-                                                     u"America/New_York"_s);
+    notifier = std::make_unique<FreedesktopNotifier>(bus.connect(u"app"_s), clock, u"en_US"_s, u"America/New_York"_s);
     preferences->setServerURL(server.base());
     if (!keychain.write(QString::fromLatin1(token)))
         return fail(u"the keyring refused the token (run inside tests/support/run-in-session)"_s);
@@ -74,9 +74,17 @@ bool ModelRig::ready(QString *why)
 
 AppEnvironment ModelRig::environment()
 {
-    return {.clock = &clock, .transport = transport, .secrets = &secrets, .notifier = notifier.get(),
-            .preferences = preferences.get(), .opener = &opener, .clipboard = &clipboard,
-            .dataDirectory = dataDirectory, .locale = u"en_US"_s, .zone = u"America/New_York"_s, .timings = timings};
+    return {.clock = &clock,
+            .transport = transport,
+            .secrets = &secrets,
+            .notifier = notifier.get(),
+            .preferences = preferences.get(),
+            .opener = &opener,
+            .clipboard = &clipboard,
+            .dataDirectory = dataDirectory,
+            .locale = u"en_US"_s,
+            .zone = u"America/New_York"_s,
+            .timings = timings};
 }
 
 void ModelRig::advance(qint64 seconds)

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "model/AppModel.h"
 #include "Clipboard.h"
-#include "support/FakeNotificationServer.h"
 #include "FixedClock.h"
 #include "HTTPTransport.h"
 #include "Keychain.h"
-#include "model/Preferences.h"
-#include "support/PrivateBus.h"
 #include "SandboxHarness.h"
 #include "UrlOpener.h"
 #include "linux/FreedesktopNotifier.h"
 #include "linux/LibsecretStore.h"
+#include "model/AppModel.h"
+#include "model/Preferences.h"
+#include "support/FakeNotificationServer.h"
+#include "support/PrivateBus.h"
 
 #include <QNetworkAccessManager>
 #include <QSettings>
@@ -31,7 +31,9 @@ public:
         QString path;
         QByteArray body;
     };
-    explicit RecordingTransport(std::shared_ptr<HTTPTransport> inner) : m_inner(std::move(inner)) {}
+    explicit RecordingTransport(std::shared_ptr<HTTPTransport> inner)
+        : m_inner(std::move(inner))
+    {}
     QCoro::Task<HTTPResponse> send(HTTPRequest request, Cancellation cancellation) override;
     [[nodiscard]] int count(const QByteArray &method, const QString &path) const;
     QList<Sent> sent;

@@ -1,8 +1,8 @@
 // The client's API against the sandbox: every operation end to end, what the demo account
 // holds, and the sandbox's planted failures arriving as the client's typed errors.
-#include "SandboxHarness.h"
 #include "NetworkTransport.h"
 #include "QuorvaneAPI.h"
+#include "SandboxHarness.h"
 #include "support/ApiOutcome.h"
 
 #include "ISO.h"
@@ -24,7 +24,7 @@ QCoro::Task<QString> operation(QuorvaneAPI api, bool write)
     co_return u"ok "_s + (write ? QString() : (co_await api.me()).handle.value_or(QString()));
 }
 
-template<class T, class Predicate>
+template <class T, class Predicate>
 bool any(const QList<T> &items, Predicate predicate)
 {
     return std::any_of(items.cbegin(), items.cend(), predicate);
@@ -45,7 +45,7 @@ class TestE2EApi : public QObject
         return QuorvaneAPI{QUrl(h->base()), [token] { return std::optional<QString>(token); }, m_transport};
     }
 
-    template<class T>
+    template <class T>
     T await(QCoro::Task<T> task)
     {
         return QCoro::waitFor(std::move(task));
@@ -65,7 +65,8 @@ private Q_SLOTS:
     {
         const Account me = await(api().me());
         const HostSettings settings = await(api().settings());
-        QCOMPARE((std::pair{me.handle, me.base}), (std::pair{std::optional(settings.handle), std::optional(h->base())}));
+        QCOMPARE((std::pair{me.handle, me.base}),
+                 (std::pair{std::optional(settings.handle), std::optional(h->base())}));
         // One link per active type: the demo has four types, one of them inactive.
         QStringList links, expected;
         for (const Account::Link &l : me.links.value())
@@ -131,14 +132,18 @@ private Q_SLOTS:
         h->advance(30);
         await(api().setNoShow(lastDays.last().id, true));
         h->advance(30);
-        const auto guest = h->post(u"/sandbox/bookings"_s, {{u"type"_s, u"intro"_s}, {u"start"_s, u"2025-03-06T10:00:00Z"_s},
-                                                           {u"name"_s, u"Ada Guest"_s}, {u"email"_s, u"ada@example.com"_s}});
+        const auto guest = h->post(u"/sandbox/bookings"_s, {{u"type"_s, u"intro"_s},
+                                                            {u"start"_s, u"2025-03-06T10:00:00Z"_s},
+                                                            {u"name"_s, u"Ada Guest"_s},
+                                                            {u"email"_s, u"ada@example.com"_s}});
         QCOMPARE(guest.status, 200);
 
         const QList<Booking> changes = await(api().changes(none.serverTime.value())).changes;
         QCOMPARE(changes.size(), 3);
-        QCOMPARE((std::pair{changes.at(0).id, changes.at(0).status}), (std::pair{active->id, BookingStatus::cancelled}));
-        QCOMPARE((std::pair{changes.at(1).id, changes.at(1).noShow}), (std::pair{lastDays.last().id, std::optional(true)}));
+        QCOMPARE((std::pair{changes.at(0).id, changes.at(0).status}),
+                 (std::pair{active->id, BookingStatus::cancelled}));
+        QCOMPARE((std::pair{changes.at(1).id, changes.at(1).noShow}),
+                 (std::pair{lastDays.last().id, std::optional(true)}));
         QCOMPARE(changes.at(2).name, u"Ada Guest"_s);
         QVERIFY(await(api().changes(h->now().addSecs(1))).changes.isEmpty());
     }
@@ -190,13 +195,13 @@ private Q_SLOTS:
         const QString token = QString::fromLatin1(SandboxHarness::token);
         QTest::newRow("5xx on both tries of a GET")
             << QJsonObject{{u"status"_s, 500}, {u"count"_s, 2}} << false << token << u"server(500, Injected failure)"_s;
-        QTest::newRow("the connection drops") << QJsonObject{{u"drop"_s, true}, {u"count"_s, 20}} << false << token
-                                              << u"offline"_s;
+        QTest::newRow("the connection drops")
+            << QJsonObject{{u"drop"_s, true}, {u"count"_s, 20}} << false << token << u"offline"_s;
         QTest::newRow("an answer that doesn't decode")
             << QJsonObject{{u"body"_s, u"{\"id\":\"seven\"}"_s}} << false << token
             << u"decoding(id: Expected an integer but found a string instead.)"_s;
-        QTest::newRow("the server's own 404") << QJsonObject{} << true << token
-                                              << u"server(404, No booking with id \"nope\")"_s;
+        QTest::newRow("the server's own 404")
+            << QJsonObject{} << true << token << u"server(404, No booking with id \"nope\")"_s;
         QTest::newRow("a stranger's token") << QJsonObject{} << false << u"not-a-token"_s << u"unauthorized"_s;
     }
     void failuresArriveAsTypedErrors()

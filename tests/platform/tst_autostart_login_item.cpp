@@ -67,7 +67,7 @@ private Q_SLOTS:
         AutostartLoginItem item(config.path(), u"/opt/q"_s);
         const auto enabled = [&](const QString &extra) {
             return write(item.entryPath(), u"[Desktop Entry]\nType=Application\nExec=quorvane\n"_s + extra)
-                && item.isEnabled();
+                   && item.isEnabled();
         };
         QVERIFY(!enabled(u"Hidden = true\n"_s));
         QVERIFY(!enabled(u"X-GNOME-Autostart-enabled=false\n"_s));
@@ -78,7 +78,8 @@ private Q_SLOTS:
     // Quoted and escaped as a desktop entry's Exec wants, so any path starts the program.
     void execValue()
     {
-        QCOMPARE(AutostartLoginItem::execValue(u"/home/ann/My Apps/Q.AppImage"_s), u"\"/home/ann/My Apps/Q.AppImage\""_s);
+        QCOMPARE(AutostartLoginItem::execValue(u"/home/ann/My Apps/Q.AppImage"_s),
+                 u"\"/home/ann/My Apps/Q.AppImage\""_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/100%/q"_s), u"/opt/100%%/q"_s); // not a field code
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/$HOME/q"_s), u"\"/opt/\\\\$HOME/q\""_s);
         QCOMPARE(AutostartLoginItem::execValue(u"/opt/a\\b/q"_s), u"\"/opt/a\\\\\\\\b/q\""_s);

@@ -97,7 +97,8 @@ private Q_SLOTS:
         QCOMPARE((std::pair{call(0).summary, call(0).body}), (std::pair{u"New booking: <i>Ann</i>"_s, body}));
         QCOMPARE(call(0).actions, (QStringList{u"default"_s, u"View"_s, u"OPEN"_s, u"View"_s}));
         const QVariant urgency = call(0).hints.value(u"urgency"_s); // a byte, as the server wants
-        QCOMPARE((std::pair{urgency.metaType(), urgency.value<uchar>()}), (std::pair{QMetaType::fromType<uchar>(), uchar(1)}));
+        QCOMPARE((std::pair{urgency.metaType(), urgency.value<uchar>()}),
+                 (std::pair{QMetaType::fromType<uchar>(), uchar(1)}));
     }
 
     void sameIdentifierReplacesWhatIsShown()
@@ -159,7 +160,8 @@ private Q_SLOTS:
         startServer();
         QSignalSpy joined(m_notifier.get(), &Notifier::joinRequested);
         QSignalSpy activated(m_notifier.get(), &Notifier::activateRequested);
-        const auto answer = [&](std::optional<QString> meet, const QString &action, const QString &token, int other = 0) {
+        const auto answer = [&](std::optional<QString> meet, const QString &action, const QString &token,
+                                int other = 0) {
             // A reminder due a tenth of a second from now, then the clock jumps past it.
             Booking b = booking(u"b1"_s, m_clock->now().addMSecs(60'100));
             b.meet = meet;

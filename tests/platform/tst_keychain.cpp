@@ -19,8 +19,8 @@ namespace {
 QDBusMessage callSecrets(const QString &method, const QVariantList &arguments,
                          const QString &interface = u"org.freedesktop.Secret.Service"_s)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(u"org.freedesktop.secrets"_s, u"/org/freedesktop/secrets"_s,
-                                                       interface, method);
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(u"org.freedesktop.secrets"_s, u"/org/freedesktop/secrets"_s, interface, method);
     call.setArguments(arguments);
     return QDBusConnection::sessionBus().call(call);
 }
@@ -113,9 +113,9 @@ private Q_SLOTS:
         password << session.arguments().value(1).value<QDBusObjectPath>() << QByteArray()
                  << qgetenv("QUORVANE_TEST_KEYRING_PASSWORD") << u"text/plain"_s;
         password.endStructure();
-        const QDBusMessage unlocked = callSecrets(u"UnlockWithMasterPassword"_s,
-                                                  {QVariant::fromValue(collection), QVariant::fromValue(password)},
-                                                  u"org.gnome.keyring.InternalUnsupportedGuiltRiddenInterface"_s);
+        const QDBusMessage unlocked =
+            callSecrets(u"UnlockWithMasterPassword"_s, {QVariant::fromValue(collection), QVariant::fromValue(password)},
+                        u"org.gnome.keyring.InternalUnsupportedGuiltRiddenInterface"_s);
         QVERIFY2(unlocked.type() == QDBusMessage::ReplyMessage, qPrintable(unlocked.errorMessage()));
         QCOMPARE(m_keychain.token(), std::optional(u"kept"_s));
     }

@@ -15,8 +15,7 @@ namespace {
 // What logind sends around a suspend: true before, false after.
 void prepareForSleep(QDBusConnection &from, bool sleeping)
 {
-    QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
-                                                     u"org.freedesktop.login1.Manager"_s,
+    QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s,
                                                      u"PrepareForSleep"_s);
     signal << sleeping;
     from.send(signal);

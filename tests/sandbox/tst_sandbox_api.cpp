@@ -65,8 +65,11 @@ QStringList offeredStarts(const QByteArray &page)
 // A guest whose name is markup.
 QList<QPair<QString, QString>> guestForm(const QString &start)
 {
-    return {{u"start"_s, start}, {u"name"_s, markup}, {u"email"_s, u"kim@example.com"_s},
-            {u"q0"_s, u"Plans & <ideas>"_s}, {u"tz"_s, u"Europe/Berlin"_s}};
+    return {{u"start"_s, start},
+            {u"name"_s, markup},
+            {u"email"_s, u"kim@example.com"_s},
+            {u"q0"_s, u"Plans & <ideas>"_s},
+            {u"tz"_s, u"Europe/Berlin"_s}};
 }
 
 } // namespace
@@ -164,7 +167,9 @@ private Q_SLOTS:
     // takes each kind of fault is checked in tests/e2e.)
     void plantedAnswers()
     {
-        plant({{u"path"_s, u"/sync/polls?all=1"_s}, {u"status"_s, 404}, {u"count"_s, 2},
+        plant({{u"path"_s, u"/sync/polls?all=1"_s},
+               {u"status"_s, 404},
+               {u"count"_s, 2},
                {u"body"_s, QJsonObject{{u"error"_s, u"Gone fishing"_s}}}});
         QCOMPARE(h->get(u"/sync/google"_s).status, 200);
         QCOMPARE(h->post(u"/sync/polls"_s, {{u"title"_s, u"T"_s}, {u"type"_s, u"intro"_s}}).body,

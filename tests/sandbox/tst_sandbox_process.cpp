@@ -67,7 +67,8 @@ private Q_SLOTS:
         QVERIFY(port > 0 && port < 65536);
 
         QNetworkAccessManager network;
-        QNetworkRequest request(QUrl(u"http://127.0.0.1:%1/sync/bookings?token=%2"_s.arg(port).arg(QLatin1StringView(token))));
+        QNetworkRequest request(
+            QUrl(u"http://127.0.0.1:%1/sync/bookings?token=%2"_s.arg(port).arg(QLatin1StringView(token))));
         request.setRawHeader("Authorization", "Bearer " + token);
         std::unique_ptr<QNetworkReply> reply(network.get(request));
         QVERIFY(QSignalSpy(reply.get(), &QNetworkReply::finished).wait(10000));

@@ -92,8 +92,8 @@ private Q_SLOTS:
         }) << u"10:15 10:30"_s + late;
         QTest::newRow("buffer before") << Tweak([=](auto &q) { bookedAtTen(q, BookingStatus::confirmed, 15, 0); })
                                        << u"09:00 09:15 09:30"_s + late;
-        QTest::newRow("pending, buffer after") << Tweak([=](auto &q) { bookedAtTen(q, BookingStatus::pending, 0, 15); })
-                                               << u"09:00 09:15 10:30"_s + late;
+        QTest::newRow("pending, buffer after")
+            << Tweak([=](auto &q) { bookedAtTen(q, BookingStatus::pending, 0, 15); }) << u"09:00 09:15 10:30"_s + late;
         QTest::newRow("cancelled blocks nothing")
             << Tweak([=](auto &q) { bookedAtTen(q, BookingStatus::cancelled, 15, 15); })
             << u"09:00 09:15 09:30 09:45 10:00 10:15 10:30"_s + late;

@@ -12,13 +12,12 @@ const QString objectPath = QStringLiteral("/org/freedesktop/Notifications");
 FakeNotificationServer::FakeNotificationServer(const QDBusConnection &connection, const QStringList &capabilities)
     : m_connection(connection)
     , m_capabilities(capabilities)
-{
-}
+{}
 
 bool FakeNotificationServer::start()
 {
     return m_connection.registerObject(objectPath, this, QDBusConnection::ExportAllSlots)
-        && m_connection.registerService(service);
+           && m_connection.registerService(service);
 }
 
 void FakeNotificationServer::stop()
@@ -34,8 +33,8 @@ uint FakeNotificationServer::Notify(const QString &appName, uint replacesID, con
     // Like the common servers: replacing something no longer shown makes a new one.
     const uint id = m_showing.contains(replacesID) ? replacesID : m_nextID++;
     m_showing.insert(id);
-    m_calls.append({message().signature(), appName, replacesID, appIcon, summary, body, actions, hints, expireTimeout,
-                    id});
+    m_calls.append(
+        {message().signature(), appName, replacesID, appIcon, summary, body, actions, hints, expireTimeout, id});
     return id;
 }
 

@@ -11,7 +11,8 @@ namespace quorvane::test {
 
 // An org.freedesktop.Notifications server that shows nothing: it records what it is asked, in
 // the types it was sent, and emits the signals a real one would when the user acts.
-class FakeNotificationServer : public QObject, protected QDBusContext {
+class FakeNotificationServer : public QObject, protected QDBusContext
+{
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
 public:

@@ -20,8 +20,7 @@ FixtureApp *current = nullptr;
 
 FixtureApp::FixtureApp(State state)
     : FixtureApp(Options{state})
-{
-}
+{}
 
 FixtureApp::FixtureApp(const Options &options)
     : clock(FixtureSnapshot::now())
@@ -43,12 +42,18 @@ FixtureApp::~FixtureApp()
 const char *FixtureApp::name(State state)
 {
     switch (state) {
-    case State::withData: return "withData";
-    case State::signedOut: return "signedOut";
-    case State::offline: return "offline";
-    case State::errorBanner: return "errorBanner";
-    case State::toast: return "toast";
-    case State::loading: return "loading";
+    case State::withData:
+        return "withData";
+    case State::signedOut:
+        return "signedOut";
+    case State::offline:
+        return "offline";
+    case State::errorBanner:
+        return "errorBanner";
+    case State::toast:
+        return "toast";
+    case State::loading:
+        return "loading";
     }
     return "?";
 }
@@ -106,20 +111,18 @@ void FixtureApp::registerQmlSingletons()
         QQmlEngine::setObjectOwnership(&current->model(), QQmlEngine::CppOwnership);
         return &current->model();
     });
-    qmlRegisterSingletonType<ShellController>("Quorvane.App", 1, 0, "Shell",
-                                              [](QQmlEngine *, QJSEngine *) -> ShellController * {
-                                                  Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
-                                                  QQmlEngine::setObjectOwnership(&current->shell(),
-                                                                                 QQmlEngine::CppOwnership);
-                                                  return &current->shell();
-                                              });
-    qmlRegisterSingletonType<SetupServices>("Quorvane.App", 1, 0, "Setup",
-                                            [](QQmlEngine *, QJSEngine *) -> SetupServices * {
-                                                Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
-                                                QQmlEngine::setObjectOwnership(&current->setup(),
-                                                                               QQmlEngine::CppOwnership);
-                                                return &current->setup();
-                                            });
+    qmlRegisterSingletonType<ShellController>(
+        "Quorvane.App", 1, 0, "Shell", [](QQmlEngine *, QJSEngine *) -> ShellController * {
+            Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
+            QQmlEngine::setObjectOwnership(&current->shell(), QQmlEngine::CppOwnership);
+            return &current->shell();
+        });
+    qmlRegisterSingletonType<SetupServices>(
+        "Quorvane.App", 1, 0, "Setup", [](QQmlEngine *, QJSEngine *) -> SetupServices * {
+            Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
+            QQmlEngine::setObjectOwnership(&current->setup(), QQmlEngine::CppOwnership);
+            return &current->setup();
+        });
 }
 
 } // namespace quorvane::test

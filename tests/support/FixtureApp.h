@@ -1,16 +1,16 @@
 #pragma once
 
-#include "model/AppModel.h"
 #include "Clipboard.h"
 #include "FixedClock.h"
 #include "FixtureTransport.h"
 #include "MemoryLoginItem.h"
 #include "MemorySecretStore.h"
-#include "model/Preferences.h"
 #include "QuietNotifier.h"
+#include "UrlOpener.h"
+#include "model/AppModel.h"
+#include "model/Preferences.h"
 #include "onboarding/SetupServices.h"
 #include "shell/ShellController.h"
-#include "UrlOpener.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -47,8 +47,8 @@ public:
 
     struct Options {
         State state = State::withData;
-        bool onboarded = true;   // false: the shell opens the welcome guide at start
-        bool emptyData = false;  // the account without bookings or polls
+        bool onboarded = true;  // false: the shell opens the welcome guide at start
+        bool emptyData = false; // the account without bookings or polls
         QString toastText = QStringLiteral("Copied link for Consultation");
     };
 

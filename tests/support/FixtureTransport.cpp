@@ -35,8 +35,7 @@ QJsonArray bookingArray(const QList<Booking> &bookings)
 FixtureTransport::FixtureTransport(Snapshot snapshot, Instant at)
     : data(std::move(snapshot))
     , now(std::move(at))
-{
-}
+{}
 
 QCoro::Task<HTTPResponse> FixtureTransport::send(HTTPRequest request, Cancellation cancellation)
 {
@@ -66,9 +65,10 @@ HTTPResponse FixtureTransport::answer(const QByteArray &method, const QString &p
 {
     const QUrlQuery query(url);
     if (path == "auth/device/start"_L1)
-        return ok(QJsonObject{{u"device_code"_s, u"fixture-device"_s},
-                              {u"user_code"_s, u"WDJB-MJHT"_s},
-                              {u"verification_uri_complete"_s, url.resolved(QUrl(u"/device?code=WDJB-MJHT"_s)).toString()}});
+        return ok(
+            QJsonObject{{u"device_code"_s, u"fixture-device"_s},
+                        {u"user_code"_s, u"WDJB-MJHT"_s},
+                        {u"verification_uri_complete"_s, url.resolved(QUrl(u"/device?code=WDJB-MJHT"_s)).toString()}});
     if (path == "auth/device/poll"_L1) {
         if (approveSignIn)
             return ok(QJsonObject{{u"access_token"_s, u"fixture-token"_s}});

@@ -15,10 +15,10 @@ class FixtureTransport final : public HTTPTransport
 {
 public:
     enum class Mode {
-        answer,   // 2xx from the snapshot
-        fail,     // no HTTP answer at all: offline
-        status,   // every request gets `failureStatus`
-        silent,   // no answer until the request is cancelled
+        answer, // 2xx from the snapshot
+        fail,   // no HTTP answer at all: offline
+        status, // every request gets `failureStatus`
+        silent, // no answer until the request is cancelled
     };
 
     explicit FixtureTransport(Snapshot data, Instant now);

@@ -8,18 +8,18 @@ namespace {
 
 QString config(const QString &socket, const QString &servicesDir)
 {
-    QString text = QStringLiteral(
-        "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
-        " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-        "<busconfig>\n"
-        "  <type>session</type>\n"
-        "  <listen>unix:path=%1</listen>\n"
-        "  <auth>EXTERNAL</auth>\n"
-        "  <policy context=\"default\">\n"
-        "    <allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
-        "    <allow eavesdrop=\"true\"/>\n"
-        "    <allow own=\"*\"/>\n"
-        "  </policy>\n").arg(socket);
+    QString text = QStringLiteral("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
+                                  " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+                                  "<busconfig>\n"
+                                  "  <type>session</type>\n"
+                                  "  <listen>unix:path=%1</listen>\n"
+                                  "  <auth>EXTERNAL</auth>\n"
+                                  "  <policy context=\"default\">\n"
+                                  "    <allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
+                                  "    <allow eavesdrop=\"true\"/>\n"
+                                  "    <allow own=\"*\"/>\n"
+                                  "  </policy>\n")
+                       .arg(socket);
     if (!servicesDir.isEmpty())
         text += QStringLiteral("  <servicedir>%1</servicedir>\n").arg(servicesDir);
     return text + QStringLiteral("</busconfig>\n");
@@ -45,8 +45,7 @@ PrivateBus::PrivateBus(const QString &servicesDir)
         m_error = m_daemon.errorString();
         return;
     }
-    while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead(5000)) {
-    }
+    while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead(5000)) {}
     m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
     if (m_address.isEmpty())
         m_error = QString::fromUtf8(m_daemon.readAllStandardError());

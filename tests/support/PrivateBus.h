@@ -9,7 +9,8 @@ namespace quorvane::test {
 
 // A dbus-daemon of the test's own. Nothing is on it but what the test puts there, and nothing
 // starts on demand, unless the test hands it a directory of .service files.
-class PrivateBus {
+class PrivateBus
+{
 public:
     explicit PrivateBus(const QString &servicesDir = {});
     ~PrivateBus();

@@ -26,7 +26,8 @@ QList<QByteArray> ScriptedServer::Request::headerNames() const
     return names;
 }
 
-ScriptedServer::ScriptedServer(QObject *parent) : QAbstractHttpServer(parent)
+ScriptedServer::ScriptedServer(QObject *parent)
+    : QAbstractHttpServer(parent)
 {
     m_clock.start();
     if (const quint16 port = listen(QHostAddress::LocalHost, 0))
@@ -36,7 +37,8 @@ ScriptedServer::ScriptedServer(QObject *parent) : QAbstractHttpServer(parent)
 bool ScriptedServer::handleRequest(const QHttpServerRequest &request, QTcpSocket *socket)
 {
     const char *method = QMetaEnum::fromType<QHttpServerRequest::Method>().valueToKey(int(request.method()));
-    m_requests.append({QByteArray(method).toUpper(), request.url(), request.headers(), request.body(), m_clock.elapsed()});
+    m_requests.append(
+        {QByteArray(method).toUpper(), request.url(), request.headers(), request.body(), m_clock.elapsed()});
     Answer answer{200, "{}"};
     if (!m_script.empty()) {
         answer = m_script.front();

@@ -19,8 +19,8 @@ public:
         int status = 200;
         QByteArray body;
         int delayMs = 0;
-        bool cutOff = false;  // start the answer, then break the connection: a network failure
-        QByteArray location;  // sent as a Location header when not empty
+        bool cutOff = false; // start the answer, then break the connection: a network failure
+        QByteArray location; // sent as a Location header when not empty
     };
 
     struct Request {

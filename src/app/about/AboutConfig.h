@@ -8,9 +8,9 @@ namespace quorvane {
 struct AboutConfig {
     QString version;
     QString build;
-    QString site;         // the product's public site
-    QString privacy;      // its privacy page
-    QString terms;        // its terms page
+    QString site;    // the product's public site
+    QString privacy; // its privacy page
+    QString terms;   // its terms page
     QString makerName;
     QString makerSite;    // the author's own site
     QString makerProfile; // the author's professional profile

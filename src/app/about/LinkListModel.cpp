@@ -2,9 +2,10 @@
 
 namespace quorvane {
 
-LinkListModel::LinkListModel(QList<Link> links, QObject *parent) : QAbstractListModel(parent), m_links(std::move(links))
-{
-}
+LinkListModel::LinkListModel(QList<Link> links, QObject *parent)
+    : QAbstractListModel(parent)
+    , m_links(std::move(links))
+{}
 
 int LinkListModel::rowCount(const QModelIndex &parent) const
 {

@@ -7,9 +7,12 @@ namespace quorvane {
 QString BannerStyle::symbol(Banner::Kind kind)
 {
     switch (kind) {
-    case Banner::Kind::error: return u"exclamationmark.triangle.fill"_s;
-    case Banner::Kind::offline: return u"wifi.slash"_s;
-    case Banner::Kind::info: return u"checkmark.circle.fill"_s;
+    case Banner::Kind::error:
+        return u"exclamationmark.triangle.fill"_s;
+    case Banner::Kind::offline:
+        return u"wifi.slash"_s;
+    case Banner::Kind::info:
+        return u"checkmark.circle.fill"_s;
     }
     return u"exclamationmark.triangle.fill"_s;
 }
@@ -17,9 +20,12 @@ QString BannerStyle::symbol(Banner::Kind kind)
 Tint BannerStyle::tint(Banner::Kind kind)
 {
     switch (kind) {
-    case Banner::Kind::error: return Tint::orange;
-    case Banner::Kind::offline: return Tint::secondary;
-    case Banner::Kind::info: return Tint::green;
+    case Banner::Kind::error:
+        return Tint::orange;
+    case Banner::Kind::offline:
+        return Tint::secondary;
+    case Banner::Kind::info:
+        return Tint::green;
     }
     return Tint::orange;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "components/Tint.h"
 #include "model/AppModel.h"
 #include "model/Banner.h"
-#include "components/Tint.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

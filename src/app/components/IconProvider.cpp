@@ -25,7 +25,9 @@ QColor colorFromQuery(const QString &query)
 }
 } // namespace
 
-IconProvider::IconProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
+IconProvider::IconProvider()
+    : QQuickImageProvider(QQuickImageProvider::Image)
+{}
 
 QImage IconProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
 {

@@ -61,7 +61,7 @@ QEasingCurve Motion::spring(double response, double dampingFraction)
         constexpr double step = 1e-5;
         return (springPosition(response, dampingFraction, (progress + step) * seconds)
                 - springPosition(response, dampingFraction, std::max(0.0, progress - step) * seconds))
-            / (progress + step - std::max(0.0, progress - step));
+               / (progress + step - std::max(0.0, progress - step));
     };
     constexpr double width = 1.0 / pieces;
     QEasingCurve curve(QEasingCurve::BezierSpline);

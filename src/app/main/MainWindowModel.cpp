@@ -1,19 +1,21 @@
 #include "main/MainWindowModel.h"
 
-#include "model/AppBinding.h"
 #include "main/MainWindowText.h"
+#include "model/AppBinding.h"
 
 namespace quorvane {
 
-MainWindowModel::MainWindowModel(QObject *parent) : QObject(parent) {}
+MainWindowModel::MainWindowModel(QObject *parent)
+    : QObject(parent)
+{}
 
 void MainWindowModel::setApp(AppModel *app)
 {
-    const bool moved = AppBinding::follow(m_app, app, this,
-                                          {&AppModel::offlineChanged, &AppModel::savingChanged,
-                                           &AppModel::lastRefreshChanged, &AppModel::sectionChanged,
-                                           &AppModel::snapshotChanged, &AppModel::needsSignInChanged, &AppModel::ticked},
-                                          &MainWindowModel::changed);
+    const bool moved = AppBinding::follow(
+        m_app, app, this,
+        {&AppModel::offlineChanged, &AppModel::savingChanged, &AppModel::lastRefreshChanged, &AppModel::sectionChanged,
+         &AppModel::snapshotChanged, &AppModel::needsSignInChanged, &AppModel::ticked},
+        &MainWindowModel::changed);
     if (!moved)
         return;
     Q_EMIT appChanged();
@@ -62,8 +64,8 @@ QString MainWindowModel::statusText() const
 
 QColor MainWindowModel::statusColor() const
 {
-    const Tint dot = m_app ? MainWindowText::footerStatus(m_app->offline(), m_app->googleConnected()).dot
-                           : Tint::secondary;
+    const Tint dot =
+        m_app ? MainWindowText::footerStatus(m_app->offline(), m_app->googleConnected()).dot : Tint::secondary;
     return Tints::color(dot);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "main/FooterStatus.h"
 #include "Instant.h"
+#include "main/FooterStatus.h"
 
 #include <QString>
 

@@ -8,7 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace quorvane {
 
-SectionListModel::SectionListModel(QObject *parent) : QAbstractListModel(parent), m_sections(Section::allCases()) {}
+SectionListModel::SectionListModel(QObject *parent)
+    : QAbstractListModel(parent)
+    , m_sections(Section::allCases())
+{}
 
 void SectionListModel::setApp(AppModel *app)
 {
@@ -22,9 +25,12 @@ void SectionListModel::setApp(AppModel *app)
 int SectionListModel::badge(AppSection section, const AppModel &app)
 {
     switch (section) {
-    case AppSection::today: return int(app.today().size());
-    case AppSection::bookings: return int(app.upcoming().size());
-    default: return 0;
+    case AppSection::today:
+        return int(app.today().size());
+    case AppSection::bookings:
+        return int(app.upcoming().size());
+    default:
+        return 0;
     }
 }
 
@@ -45,23 +51,29 @@ QVariant SectionListModel::data(const QModelIndex &index, int role) const
         return {};
     const AppSection section = m_sections.at(index.row());
     switch (role) {
-    case IdRole: return Section::id(section);
+    case IdRole:
+        return Section::id(section);
     case Qt::DisplayRole:
-    case TitleRole: return Section::title(section);
-    case SymbolRole: return Section::symbol(section);
-    case ShortcutRole: return Section::shortcut(section);
+    case TitleRole:
+        return Section::title(section);
+    case SymbolRole:
+        return Section::symbol(section);
+    case ShortcutRole:
+        return Section::shortcut(section);
     case HintRole: {
         const QKeySequence keys(u"Ctrl+"_s + Section::shortcut(section));
         return u"Shortcut "_s + keys.toString(QKeySequence::NativeText);
     }
-    case BadgeRole: return m_app ? badge(section, *m_app) : 0;
-    default: return {};
+    case BadgeRole:
+        return m_app ? badge(section, *m_app) : 0;
+    default:
+        return {};
     }
 }
 
 QHash<int, QByteArray> SectionListModel::roleNames() const
 {
-    return {{IdRole, "sectionId"},         {TitleRole, "title"}, {SymbolRole, "symbol"},
+    return {{IdRole, "sectionId"},      {TitleRole, "title"}, {SymbolRole, "symbol"},
             {ShortcutRole, "shortcut"}, {HintRole, "hint"},   {BadgeRole, "badge"}};
 }
 

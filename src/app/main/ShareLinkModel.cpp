@@ -1,13 +1,15 @@
 #include "main/ShareLinkModel.h"
 
-#include "model/AppBinding.h"
 #include "components/HexColor.h"
+#include "model/AppBinding.h"
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
 
-ShareLinkModel::ShareLinkModel(QObject *parent) : QAbstractListModel(parent) {}
+ShareLinkModel::ShareLinkModel(QObject *parent)
+    : QAbstractListModel(parent)
+{}
 
 void ShareLinkModel::setApp(AppModel *app)
 {
@@ -39,21 +41,28 @@ QVariant ShareLinkModel::data(const QModelIndex &index, int role) const
         return {};
     const EventType &type = m_types.at(index.row());
     switch (role) {
-    case SlugRole: return type.slug;
+    case SlugRole:
+        return type.slug;
     case Qt::DisplayRole:
-    case TitleRole: return type.title;
-    case ColorRole: return HexColor::parse(m_app->typeColorHex(type.slug));
-    case LinkRole: return m_app->link(type);
-    case ToolTipRole: return u"Copy "_s + m_app->link(type);
-    case AccessibleRole: return u"Copy link for "_s + type.title;
-    default: return {};
+    case TitleRole:
+        return type.title;
+    case ColorRole:
+        return HexColor::parse(m_app->typeColorHex(type.slug));
+    case LinkRole:
+        return m_app->link(type);
+    case ToolTipRole:
+        return u"Copy "_s + m_app->link(type);
+    case AccessibleRole:
+        return u"Copy link for "_s + type.title;
+    default:
+        return {};
     }
 }
 
 QHash<int, QByteArray> ShareLinkModel::roleNames() const
 {
-    return {{SlugRole, "slug"},         {TitleRole, "title"},          {ColorRole, "typeColor"},
-            {LinkRole, "link"},         {ToolTipRole, "toolTip"}, {AccessibleRole, "accessibleName"}};
+    return {{SlugRole, "slug"}, {TitleRole, "title"},     {ColorRole, "typeColor"},
+            {LinkRole, "link"}, {ToolTipRole, "toolTip"}, {AccessibleRole, "accessibleName"}};
 }
 
 void ShareLinkModel::copyLink(int row)

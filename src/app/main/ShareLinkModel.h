@@ -23,7 +23,7 @@ public:
     enum Role {
         SlugRole = Qt::UserRole + 1,
         TitleRole,
-        ColorRole,      // QColor of the type
+        ColorRole, // QColor of the type
         LinkRole,
         ToolTipRole,    // "Copy {link}"
         AccessibleRole, // "Copy link for {title}"

@@ -5,8 +5,8 @@
 #include "Clock.h"
 #include "Formats.h"
 #include "Notifier.h"
-#include "model/Preferences.h"
 #include "WeekCalendar.h"
+#include "model/Preferences.h"
 
 #include <QDir>
 #include <QFile>
@@ -36,8 +36,8 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
     , m_cache(QDir(m_env.dataDirectory).filePath(cacheFileName))
     , m_tracker(distantPast())
 {
-    Q_ASSERT(m_env.clock && m_env.transport && m_env.secrets && m_env.notifier && m_env.preferences
-             && m_env.opener && m_env.clipboard);
+    Q_ASSERT(m_env.clock && m_env.transport && m_env.secrets && m_env.notifier && m_env.preferences && m_env.opener
+             && m_env.clipboard);
     m_needsSignIn = !signedInNow();
     m_snapshot = m_cache.load().value_or(Snapshot());
 
@@ -87,13 +87,13 @@ void AppModel::setDraftSettings(std::optional<HostSettings> draft)
     Q_EMIT draftSettingsChanged();
 }
 
-#define QUORVANE_SETTER(Name, member, signal)                                                                 \
-    void AppModel::Name(decltype(member) value)                                                               \
-    {                                                                                                         \
-        if (member == value)                                                                                  \
-            return;                                                                                           \
-        member = std::move(value);                                                                            \
-        Q_EMIT signal();                                                                                      \
+#define QUORVANE_SETTER(Name, member, signal)                                                                          \
+    void AppModel::Name(decltype(member) value)                                                                        \
+    {                                                                                                                  \
+        if (member == value)                                                                                           \
+            return;                                                                                                    \
+        member = std::move(value);                                                                                     \
+        Q_EMIT signal();                                                                                               \
     }
 
 QUORVANE_SETTER(setLoading, m_loading, loadingChanged)
@@ -122,18 +122,54 @@ void AppModel::setSelectedBookingId(const QString &id)
 
 // --- preferences ---
 
-bool AppModel::menuBarShowsNext() const { return m_env.preferences->menuBarShowsNext(); }
-void AppModel::setMenuBarShowsNext(bool value) { m_env.preferences->setMenuBarShowsNext(value); }
-bool AppModel::notifyBookings() const { return m_env.preferences->notifyBookings(); }
-void AppModel::setNotifyBookings(bool value) { m_env.preferences->setNotifyBookings(value); }
-bool AppModel::notifyReminders() const { return m_env.preferences->notifyReminders(); }
-void AppModel::setNotifyReminders(bool value) { m_env.preferences->setNotifyReminders(value); }
-int AppModel::reminderMinutes() const { return m_env.preferences->reminderMinutes(); }
-void AppModel::setReminderMinutes(int value) { m_env.preferences->setReminderMinutes(value); }
-QString AppModel::serverURL() const { return m_env.preferences->serverURL(); }
-void AppModel::setServerURL(const QString &value) { m_env.preferences->setServerURL(value); }
-bool AppModel::onboarded() const { return m_env.preferences->onboarded(); }
-void AppModel::setOnboarded(bool value) { m_env.preferences->setOnboarded(value); }
+bool AppModel::menuBarShowsNext() const
+{
+    return m_env.preferences->menuBarShowsNext();
+}
+void AppModel::setMenuBarShowsNext(bool value)
+{
+    m_env.preferences->setMenuBarShowsNext(value);
+}
+bool AppModel::notifyBookings() const
+{
+    return m_env.preferences->notifyBookings();
+}
+void AppModel::setNotifyBookings(bool value)
+{
+    m_env.preferences->setNotifyBookings(value);
+}
+bool AppModel::notifyReminders() const
+{
+    return m_env.preferences->notifyReminders();
+}
+void AppModel::setNotifyReminders(bool value)
+{
+    m_env.preferences->setNotifyReminders(value);
+}
+int AppModel::reminderMinutes() const
+{
+    return m_env.preferences->reminderMinutes();
+}
+void AppModel::setReminderMinutes(int value)
+{
+    m_env.preferences->setReminderMinutes(value);
+}
+QString AppModel::serverURL() const
+{
+    return m_env.preferences->serverURL();
+}
+void AppModel::setServerURL(const QString &value)
+{
+    m_env.preferences->setServerURL(value);
+}
+bool AppModel::onboarded() const
+{
+    return m_env.preferences->onboarded();
+}
+void AppModel::setOnboarded(bool value)
+{
+    m_env.preferences->setOnboarded(value);
+}
 
 // --- derived ---
 
@@ -250,8 +286,7 @@ QString AppModel::link(const EventType &type) const
 
 QString AppModel::pageLink() const
 {
-    const QString handle =
-        m_snapshot.account && m_snapshot.account->handle ? *m_snapshot.account->handle : QString();
+    const QString handle = m_snapshot.account && m_snapshot.account->handle ? *m_snapshot.account->handle : QString();
     return baseURL().toString() + u'/' + handle;
 }
 

@@ -199,7 +199,10 @@ private:
     // For QML: the optional and enum properties in plain forms.
     [[nodiscard]] bool hasBanner() const { return m_banner.has_value(); }
     [[nodiscard]] QString bannerMessage() const { return m_banner ? m_banner->message : QString(); }
-    [[nodiscard]] BannerKind bannerKind() const { return m_banner ? BannerKind(int(m_banner->kind)) : BannerKind::Error; }
+    [[nodiscard]] BannerKind bannerKind() const
+    {
+        return m_banner ? BannerKind(int(m_banner->kind)) : BannerKind::Error;
+    }
     [[nodiscard]] bool bannerRetry() const { return m_banner && m_banner->retry; }
     [[nodiscard]] bool hasAccount() const { return m_snapshot.account.has_value(); }
     [[nodiscard]] QDateTime lastRefreshOrNull() const { return m_lastRefresh.value_or(QDateTime()); }

@@ -172,8 +172,7 @@ QCoro::Task<> AppModel::saveDraft(HostSettings draft, Cancellation cancellation,
     QPointer<AppModel> self(this);
     try {
         co_await Cancellation::sleep(m_env.timings.saveDebounce, cancellation);
-    } catch (...) {
-    }
+    } catch (...) {}
     // Every edit cancels the one before it: only the last of a burst gets past here.
     if (!self || cancellation.isCancelled())
         co_return;

@@ -20,13 +20,12 @@ constexpr qint64 firstPollLookbackSeconds = 7 * 24 * 3600;
 constexpr int historyDays = 180;
 
 // Awaits a task whose result no longer matters, so none outlives the refresh.
-template<class T>
+template <class T>
 QCoro::Task<> settle(QCoro::Task<T> &task)
 {
     try {
         co_await task;
-    } catch (...) {
-    }
+    } catch (...) {}
 }
 } // namespace
 
@@ -130,8 +129,8 @@ QCoro::Task<> AppModel::pollChanges(bool prime)
     if (!signedInNow())
         co_return;
     QPointer<AppModel> self(this);
-    const Instant since = m_tracker.cursor == distantPast() ? now().addSecs(-firstPollLookbackSeconds)
-                                                            : m_tracker.cursor;
+    const Instant since =
+        m_tracker.cursor == distantPast() ? now().addSecs(-firstPollLookbackSeconds) : m_tracker.cursor;
     BookingChanges answer;
     std::exception_ptr failure;
     try {

@@ -39,9 +39,18 @@ QList<AppSection> allCases()
     return out;
 }
 
-QString id(AppSection section) { return row(section).id; }
-QString title(AppSection section) { return row(section).title; }
-QString symbol(AppSection section) { return row(section).symbol; }
+QString id(AppSection section)
+{
+    return row(section).id;
+}
+QString title(AppSection section)
+{
+    return row(section).title;
+}
+QString symbol(AppSection section)
+{
+    return row(section).symbol;
+}
 
 std::optional<AppSection> fromId(const QString &id)
 {

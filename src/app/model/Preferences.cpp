@@ -7,9 +7,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 Preferences::Preferences(QSettings &settings, QObject *parent)
-    : QObject(parent), m_settings(settings)
-{
-}
+    : QObject(parent)
+    , m_settings(settings)
+{}
 
 QString Preferences::defaultServerURL()
 {
@@ -31,14 +31,38 @@ void Preferences::store(const char *key, const QVariant &value)
     Q_EMIT changed(name);
 }
 
-bool Preferences::menuBarShowsNext() const { return boolValue(Keys::menuBarShowsNext, true); }
-void Preferences::setMenuBarShowsNext(bool value) { store(Keys::menuBarShowsNext, value); }
-bool Preferences::notifyBookings() const { return boolValue(Keys::notifyBookings, true); }
-void Preferences::setNotifyBookings(bool value) { store(Keys::notifyBookings, value); }
-bool Preferences::notifyReminders() const { return boolValue(Keys::notifyReminders, true); }
-void Preferences::setNotifyReminders(bool value) { store(Keys::notifyReminders, value); }
-bool Preferences::onboarded() const { return boolValue(Keys::onboarded, false); }
-void Preferences::setOnboarded(bool value) { store(Keys::onboarded, value); }
+bool Preferences::menuBarShowsNext() const
+{
+    return boolValue(Keys::menuBarShowsNext, true);
+}
+void Preferences::setMenuBarShowsNext(bool value)
+{
+    store(Keys::menuBarShowsNext, value);
+}
+bool Preferences::notifyBookings() const
+{
+    return boolValue(Keys::notifyBookings, true);
+}
+void Preferences::setNotifyBookings(bool value)
+{
+    store(Keys::notifyBookings, value);
+}
+bool Preferences::notifyReminders() const
+{
+    return boolValue(Keys::notifyReminders, true);
+}
+void Preferences::setNotifyReminders(bool value)
+{
+    store(Keys::notifyReminders, value);
+}
+bool Preferences::onboarded() const
+{
+    return boolValue(Keys::onboarded, false);
+}
+void Preferences::setOnboarded(bool value)
+{
+    store(Keys::onboarded, value);
+}
 
 int Preferences::reminderMinutes() const
 {
@@ -47,14 +71,20 @@ int Preferences::reminderMinutes() const
     return ok ? minutes : 5;
 }
 
-void Preferences::setReminderMinutes(int value) { store(Keys::reminderMinutes, value); }
+void Preferences::setReminderMinutes(int value)
+{
+    store(Keys::reminderMinutes, value);
+}
 
 QString Preferences::serverURL() const
 {
     return m_settings.value(QLatin1StringView(Keys::serverURL), defaultServerURL()).toString();
 }
 
-void Preferences::setServerURL(const QString &value) { store(Keys::serverURL, value); }
+void Preferences::setServerURL(const QString &value)
+{
+    store(Keys::serverURL, value);
+}
 
 std::optional<QString> Preferences::publicBaseURL() const
 {

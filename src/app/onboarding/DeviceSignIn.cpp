@@ -61,21 +61,22 @@ QString describe(const std::exception_ptr &error)
     }
 }
 
-
 } // namespace
 
 DeviceSignIn::DeviceSignIn(std::shared_ptr<HTTPTransport> transport, SecretStore &secrets, const UrlOpener &opener,
                            const Clock &clock, QObject *parent)
     : DeviceSignIn(std::move(transport), secrets, opener, clock, Timings(), parent)
-{
-}
+{}
 
 DeviceSignIn::DeviceSignIn(std::shared_ptr<HTTPTransport> transport, SecretStore &secrets, const UrlOpener &opener,
                            const Clock &clock, Timings timings, QObject *parent)
-    : QObject(parent), m_transport(std::move(transport)), m_secrets(&secrets), m_opener(&opener), m_clock(&clock),
-      m_timings(timings)
-{
-}
+    : QObject(parent)
+    , m_transport(std::move(transport))
+    , m_secrets(&secrets)
+    , m_opener(&opener)
+    , m_clock(&clock)
+    , m_timings(timings)
+{}
 
 // A flow still suspended wakes up cancelled and ends without touching this object.
 DeviceSignIn::~DeviceSignIn()
@@ -122,8 +123,8 @@ QCoro::Task<void> DeviceSignIn::flow(QUrl base, Cancellation cancellation, std::
     m_opener->open(codes.url);
 
     const Instant deadline = m_clock->now().addMSecs(m_timings.deadline.count());
-    const HTTPRequest poll = requestFor(endpoint(base, u"auth/device/poll"_s),
-                                        QJsonObject{{u"device_code"_s, codes.deviceCode}});
+    const HTTPRequest poll =
+        requestFor(endpoint(base, u"auth/device/poll"_s), QJsonObject{{u"device_code"_s, codes.deviceCode}});
     while (m_clock->now() < deadline) {
         co_await Cancellation::sleep(m_timings.pollInterval, cancellation);
         // A failed exchange ends the flow here: only "not yet approved" keeps it polling.

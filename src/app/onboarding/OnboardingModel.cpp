@@ -2,8 +2,8 @@
 
 #include "LoginItem.h"
 #include "Notifier.h"
-#include "onboarding/OnboardingText.h"
 #include "model/Preferences.h"
+#include "onboarding/OnboardingText.h"
 
 #include <QPointer>
 
@@ -19,10 +19,12 @@ void detach(QCoro::Task<> &&task)
 } // namespace
 
 OnboardingModel::OnboardingModel(Preferences &preferences, Notifier &notifier, LoginItem &loginItem, QObject *parent)
-    : QObject(parent), m_preferences(preferences), m_notifier(notifier), m_loginItem(loginItem),
-      m_login(loginItem.isEnabled())
-{
-}
+    : QObject(parent)
+    , m_preferences(preferences)
+    , m_notifier(notifier)
+    , m_loginItem(loginItem)
+    , m_login(loginItem.isEnabled())
+{}
 
 QString OnboardingModel::primaryLabel() const
 {

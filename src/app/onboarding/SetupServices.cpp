@@ -1,9 +1,9 @@
 #include "onboarding/SetupServices.h"
 
+#include "UrlOpener.h"
 #include "model/AppModel.h"
 #include "onboarding/OnboardingText.h"
 #include "onboarding/SignInText.h"
-#include "UrlOpener.h"
 
 #include <QQmlEngine>
 
@@ -11,8 +11,12 @@ namespace quorvane {
 
 SetupServices::SetupServices(AppModel &model, const AppEnvironment &environment, LoginItem &loginItem,
                              DeviceSignIn::Timings signInTimings, QObject *parent)
-    : QObject(parent), m_model(model), m_environment(environment), m_loginItem(loginItem),
-      m_signInTimings(signInTimings), m_about(AboutConfig::fromBuild(), *environment.opener)
+    : QObject(parent)
+    , m_model(model)
+    , m_environment(environment)
+    , m_loginItem(loginItem)
+    , m_signInTimings(signInTimings)
+    , m_about(AboutConfig::fromBuild(), *environment.opener)
 {
     connect(&m_model, &AppModel::snapshotChanged, this, &SetupServices::signedInLabelChanged);
 }

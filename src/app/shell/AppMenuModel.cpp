@@ -1,8 +1,8 @@
 #include "shell/AppMenuModel.h"
 
-#include "about/About.h"
 #include "BuildInfo.h"
 #include "UrlOpener.h"
+#include "about/About.h"
 
 #include <QKeySequence>
 
@@ -12,8 +12,7 @@ namespace quorvane {
 
 AppMenuModel::AppMenuModel(QObject *parent)
     : AppMenuModel(QString::fromUtf8(build::makerName), QString::fromUtf8(build::makerSite), parent)
-{
-}
+{}
 
 AppMenuModel::AppMenuModel(const QString &makerName, const QString &makerSite, QObject *parent)
     : QObject(parent)

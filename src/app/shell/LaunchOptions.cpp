@@ -24,8 +24,8 @@ bool isServer(const QString &text)
 {
     const QUrl url(text, QUrl::StrictMode);
     return url.isValid() && (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty()
-        && (url.path().isEmpty() || url.path() == "/"_L1) && !url.hasQuery() && !url.hasFragment()
-        && url.userInfo().isEmpty();
+           && (url.path().isEmpty() || url.path() == "/"_L1) && !url.hasQuery() && !url.hasFragment()
+           && url.userInfo().isEmpty();
 }
 
 } // namespace

@@ -3,8 +3,8 @@
 #include "linux/ProcessStats.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QEventLoop>
+#include <QFile>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
@@ -27,8 +27,8 @@ bool fromQml(const QMessageLogContext &context)
 {
     const QLatin1StringView category(context.category ? context.category : "");
     const QLatin1StringView file(context.file ? context.file : "");
-    return category == "qml"_L1 || category == "js"_L1 || category.startsWith("qt.qml"_L1)
-        || file.startsWith("qrc:"_L1) || file.startsWith("file:"_L1);
+    return category == "qml"_L1 || category == "js"_L1 || category.startsWith("qt.qml"_L1) || file.startsWith("qrc:"_L1)
+           || file.startsWith("file:"_L1);
 }
 } // namespace
 
@@ -91,8 +91,8 @@ int SelfTest::run(const QUrl &root, const QStringList &files, int timeoutMs)
         std::fprintf(stderr, "self-test: %s\n", qPrintable(problem));
     if (!m_problems.isEmpty())
         return 1;
-    std::printf("self-test: %d QML files compiled; first frame after %lld ms; resident %lld KiB\n",
-                int(files.size()), static_cast<long long>(m_firstFrameMs), static_cast<long long>(resident.value_or(-1)));
+    std::printf("self-test: %d QML files compiled; first frame after %lld ms; resident %lld KiB\n", int(files.size()),
+                static_cast<long long>(m_firstFrameMs), static_cast<long long>(resident.value_or(-1)));
     std::fflush(stdout);
     return 0;
 }

@@ -23,14 +23,14 @@ const QByteArray confirmation = QByteArrayLiteral("ok\n");
 SingleInstance::SingleInstance(QString socketPath, QObject *parent)
     : QObject(parent)
     , m_path(std::move(socketPath))
-{
-}
+{}
 
 SingleInstance::~SingleInstance() = default;
 
 QString SingleInstance::defaultPath()
 {
-    return pathFor(qEnvironmentVariable("XDG_RUNTIME_DIR"), QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    return pathFor(qEnvironmentVariable("XDG_RUNTIME_DIR"),
+                   QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
 }
 
 QString SingleInstance::pathFor(const QString &runtimeDir, const QString &configDir)
@@ -39,8 +39,11 @@ QString SingleInstance::pathFor(const QString &runtimeDir, const QString &config
     // Settings of their own make another instance: the demo runs beside the everyday app.
     const QString usual = QDir::home().filePath(u".config"_s);
     if (!configDir.isEmpty() && QDir::cleanPath(configDir) != QDir::cleanPath(usual))
-        name += u'-' + QString::fromLatin1(QCryptographicHash::hash(QFile::encodeName(QDir::cleanPath(configDir)),
-                                                                    QCryptographicHash::Sha1).toHex().left(12));
+        name += u'-'
+                + QString::fromLatin1(
+                    QCryptographicHash::hash(QFile::encodeName(QDir::cleanPath(configDir)), QCryptographicHash::Sha1)
+                        .toHex()
+                        .left(12));
     name += u".instance"_s;
     if (!runtimeDir.isEmpty() && QDir(runtimeDir).exists())
         return QDir(runtimeDir).filePath(name);

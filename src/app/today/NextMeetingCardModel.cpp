@@ -1,14 +1,15 @@
 #include "today/NextMeetingCardModel.h"
 
-#include "model/AppBinding.h"
 #include "components/HexColor.h"
+#include "model/AppBinding.h"
 #include "today/NextMeeting.h"
 
 namespace quorvane {
 
 void NextMeetingCardModel::setApp(AppModel *app)
 {
-    if (!AppBinding::follow(m_app, app, this, {&AppModel::snapshotChanged, &AppModel::ticked}, &NextMeetingCardModel::redraw))
+    if (!AppBinding::follow(m_app, app, this, {&AppModel::snapshotChanged, &AppModel::ticked},
+                            &NextMeetingCardModel::redraw))
         return;
     Q_EMIT appChanged();
     redraw();

@@ -1,8 +1,8 @@
 #include "today/TimelineModel.h"
 
-#include "model/AppBinding.h"
 #include "Formats.h"
 #include "components/HexColor.h"
+#include "model/AppBinding.h"
 #include "today/Timeline.h"
 
 using namespace Qt::StringLiterals;
@@ -53,25 +53,35 @@ QVariant TimelineModel::data(const QModelIndex &index, int role) const
         return {};
     const Booking &b = m_bookings.at(index.row());
     switch (role) {
-    case IdRole: return b.id;
-    case TimeRole: return Formats::format(b.start, u"jmm"_s, m_app->locale(), m_app->zone());
+    case IdRole:
+        return b.id;
+    case TimeRole:
+        return Formats::format(b.start, u"jmm"_s, m_app->locale(), m_app->zone());
     case Qt::DisplayRole:
-    case NameRole: return b.name;
-    case DetailRole: return Timeline::detail(m_app->typeTitle(b.type), Timeline::minutes(b));
-    case ColorRole: return HexColor::parse(m_app->typeColorHex(b.type));
-    case PastRole: return Timeline::isPast(b, m_now);
-    case LiveRole: return Timeline::isLive(b, m_now);
-    case ShowsJoinRole: return Timeline::showsJoin(b, m_now);
-    case JoinNameRole: return Timeline::joinAccessibleName(b.name);
-    default: return {};
+    case NameRole:
+        return b.name;
+    case DetailRole:
+        return Timeline::detail(m_app->typeTitle(b.type), Timeline::minutes(b));
+    case ColorRole:
+        return HexColor::parse(m_app->typeColorHex(b.type));
+    case PastRole:
+        return Timeline::isPast(b, m_now);
+    case LiveRole:
+        return Timeline::isLive(b, m_now);
+    case ShowsJoinRole:
+        return Timeline::showsJoin(b, m_now);
+    case JoinNameRole:
+        return Timeline::joinAccessibleName(b.name);
+    default:
+        return {};
     }
 }
 
 QHash<int, QByteArray> TimelineModel::roleNames() const
 {
-    return {{IdRole, "bookingId"},     {TimeRole, "time"},         {NameRole, "name"},
-            {DetailRole, "detail"},    {ColorRole, "typeColor"}, {PastRole, "past"},
-            {LiveRole, "live"},        {ShowsJoinRole, "showsJoin"}, {JoinNameRole, "joinName"}};
+    return {{IdRole, "bookingId"},  {TimeRole, "time"},           {NameRole, "name"},
+            {DetailRole, "detail"}, {ColorRole, "typeColor"},     {PastRole, "past"},
+            {LiveRole, "live"},     {ShowsJoinRole, "showsJoin"}, {JoinNameRole, "joinName"}};
 }
 
 void TimelineModel::join(int row)

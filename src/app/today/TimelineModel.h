@@ -22,10 +22,10 @@ class TimelineModel : public QAbstractListModel
 public:
     enum Role {
         IdRole = Qt::UserRole + 1,
-        TimeRole,     // start, short time
-        NameRole,     // the guest
-        DetailRole,   // "Intro call · 30 min"
-        ColorRole,    // the type's colour
+        TimeRole,   // start, short time
+        NameRole,   // the guest
+        DetailRole, // "Intro call · 30 min"
+        ColorRole,  // the type's colour
         PastRole,
         LiveRole,
         ShowsJoinRole,

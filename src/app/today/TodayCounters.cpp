@@ -4,8 +4,8 @@
 
 namespace quorvane::TodayCounters {
 
-Counts counts(const QList<Booking> &today, const QList<Booking> &upcoming, const QList<Poll> &polls,
-              const Instant &now, const WeekCalendar &calendar)
+Counts counts(const QList<Booking> &today, const QList<Booking> &upcoming, const QList<Poll> &polls, const Instant &now,
+              const WeekCalendar &calendar)
 {
     const qint64 week = calendar.position(now).weekStartDay;
     Counts out;

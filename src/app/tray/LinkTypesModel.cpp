@@ -1,7 +1,7 @@
 #include "tray/LinkTypesModel.h"
 
-#include "model/AppBinding.h"
 #include "components/HexColor.h"
+#include "model/AppBinding.h"
 
 using namespace Qt::StringLiterals;
 
@@ -40,17 +40,24 @@ QVariant LinkTypesModel::data(const QModelIndex &index, int role) const
     const EventType &t = m_types.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-    case TitleRole: return t.title;
-    case MinutesRole: return u"%1m"_s.arg(t.minutes);
-    case ColorRole: return HexColor::parse(t.colorHex);
-    case AccessibleNameRole: return u"Copy %1 link"_s.arg(t.title);
-    default: return {};
+    case TitleRole:
+        return t.title;
+    case MinutesRole:
+        return u"%1m"_s.arg(t.minutes);
+    case ColorRole:
+        return HexColor::parse(t.colorHex);
+    case AccessibleNameRole:
+        return u"Copy %1 link"_s.arg(t.title);
+    default:
+        return {};
     }
 }
 
 QHash<int, QByteArray> LinkTypesModel::roleNames() const
 {
-    return {{TitleRole, "title"}, {MinutesRole, "minutes"}, {ColorRole, "typeColor"},
+    return {{TitleRole, "title"},
+            {MinutesRole, "minutes"},
+            {ColorRole, "typeColor"},
             {AccessibleNameRole, "accessibleName"}};
 }
 

@@ -21,7 +21,7 @@ class LinkTypesModel : public QAbstractListModel
 public:
     enum Role {
         TitleRole = Qt::UserRole + 1,
-        MinutesRole,  // "30m"
+        MinutesRole, // "30m"
         ColorRole,
         AccessibleNameRole, // "Copy Intro call link"
     };

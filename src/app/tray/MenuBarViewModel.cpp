@@ -1,7 +1,7 @@
 #include "tray/MenuBarViewModel.h"
 
-#include "model/AppBinding.h"
 #include "Formats.h"
+#include "model/AppBinding.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #include "tray/TrayIcon.h"
 
-#include "model/AppModel.h"
 #include "components/IconProvider.h"
 #include "components/Tint.h"
+#include "model/AppModel.h"
 #include "tray/TrayText.h"
 
 #include <QFont>

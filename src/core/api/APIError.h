@@ -20,7 +20,7 @@ public:
     static APIError decoding(QString message) { return APIError(Kind::decoding, 0, std::move(message)); }
 
     [[nodiscard]] Kind kind() const { return m_kind; }
-    [[nodiscard]] int status() const { return m_status; }        // server only
+    [[nodiscard]] int status() const { return m_status; }              // server only
     [[nodiscard]] const QString &message() const { return m_message; } // server and decoding
 
     // The words the user sees.
@@ -35,7 +35,10 @@ public:
 
 private:
     explicit APIError(Kind kind, int status = 0, QString message = {})
-        : m_kind(kind), m_status(status), m_message(std::move(message)) {}
+        : m_kind(kind)
+        , m_status(status)
+        , m_message(std::move(message))
+    {}
 
     Kind m_kind;
     int m_status;

@@ -15,7 +15,9 @@ struct Cancellation::State {
     std::map<quint64, std::function<void()>> actions;
 };
 
-Cancellation::Cancellation() : m_state(std::make_shared<State>()) {}
+Cancellation::Cancellation()
+    : m_state(std::make_shared<State>())
+{}
 
 void Cancellation::cancel() const
 {
@@ -52,9 +54,9 @@ Cancellation::Subscription Cancellation::onCancel(std::function<void()> action) 
 }
 
 Cancellation::Subscription::Subscription(Subscription &&other) noexcept
-    : m_state(std::move(other.m_state)), m_id(std::exchange(other.m_id, 0))
-{
-}
+    : m_state(std::move(other.m_state))
+    , m_id(std::exchange(other.m_id, 0))
+{}
 
 Cancellation::Subscription &Cancellation::Subscription::operator=(Subscription &&other) noexcept
 {

@@ -35,7 +35,10 @@ public:
 
     private:
         friend class Cancellation;
-        Subscription(std::weak_ptr<State> state, quint64 id) : m_state(std::move(state)), m_id(id) {}
+        Subscription(std::weak_ptr<State> state, quint64 id)
+            : m_state(std::move(state))
+            , m_id(id)
+        {}
         void release();
 
         std::weak_ptr<State> m_state;

@@ -11,7 +11,9 @@ namespace quorvane {
 class JSONFailure : public std::exception
 {
 public:
-    explicit JSONFailure(DecodeError error) : m_error(std::move(error)) {}
+    explicit JSONFailure(DecodeError error)
+        : m_error(std::move(error))
+    {}
 
     [[nodiscard]] const DecodeError &error() const { return m_error; }
     const char *what() const noexcept override { return "JSON decoding failed"; }

@@ -19,7 +19,9 @@ public:
     static inline const QString legacyAccount = QStringLiteral("sync-token");
     static inline const QString label = QStringLiteral("Quorvane account token");
 
-    explicit Keychain(SecretStore &store) : m_store(&store) {}
+    explicit Keychain(SecretStore &store)
+        : m_store(&store)
+    {}
 
     // The token under "api-token", else the one under "sync-token".
     [[nodiscard]] std::optional<QString> token() const;

@@ -45,7 +45,9 @@ HTTPResponse responseOf(QNetworkReply &reply)
 
 } // namespace
 
-NetworkTransport::NetworkTransport(QNetworkAccessManager &manager) : m_manager(&manager) {}
+NetworkTransport::NetworkTransport(QNetworkAccessManager &manager)
+    : m_manager(&manager)
+{}
 
 QCoro::Task<HTTPResponse> NetworkTransport::send(HTTPRequest request, Cancellation cancellation)
 {

@@ -28,7 +28,7 @@ struct PList {
 };
 } // namespace
 
-template<>
+template <>
 struct Codec<BList> {
     static BList decode(const QJsonValue &value, const CodingPath &path)
     {
@@ -36,7 +36,7 @@ struct Codec<BList> {
     }
 };
 
-template<>
+template <>
 struct Codec<CList> {
     static CList decode(const QJsonValue &value, const CodingPath &path)
     {
@@ -45,7 +45,7 @@ struct Codec<CList> {
     }
 };
 
-template<>
+template <>
 struct Codec<PList> {
     static PList decode(const QJsonValue &value, const CodingPath &path)
     {
@@ -153,7 +153,7 @@ QCoro::Task<QByteArray> perform(QuorvaneAPI api, QString path, QByteArray method
     throw lastError;
 }
 
-template<class T>
+template <class T>
 QCoro::Task<T> get(QuorvaneAPI api, QString path, QuorvaneAPI::Query query = {})
 {
     const QByteArray body = co_await api.request(path, QByteArrayLiteral("GET"), query, std::nullopt, 2);

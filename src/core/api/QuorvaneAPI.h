@@ -31,8 +31,8 @@ struct QuorvaneAPI {
     using TokenProvider = std::function<std::optional<QString>()>;
     using Query = QMap<QString, QString>; // goes out sorted by key
 
-    QUrl base;                               // the server root; paths are appended to it
-    TokenProvider token;                     // asked once per request
+    QUrl base;           // the server root; paths are appended to it
+    TokenProvider token; // asked once per request
     std::shared_ptr<HTTPTransport> transport;
     Cancellation cancellation{};
 

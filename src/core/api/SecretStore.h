@@ -20,7 +20,8 @@ public:
     // Removes the item if there is one; failures are not reported.
     virtual void remove(const QString &service, const QString &account) = 0;
     // Adds an item; true when the store took it.
-    virtual bool add(const QString &service, const QString &account, const QString &label, const QByteArray &secret) = 0;
+    virtual bool add(const QString &service, const QString &account, const QString &label,
+                     const QByteArray &secret) = 0;
 };
 
 } // namespace quorvane

@@ -11,7 +11,9 @@ namespace quorvane {
 class TransportError : public std::exception
 {
 public:
-    explicit TransportError(QString reason) : m_reason(std::move(reason)) {}
+    explicit TransportError(QString reason)
+        : m_reason(std::move(reason))
+    {}
 
     // The network layer's own words; they name the host, never the request's headers.
     [[nodiscard]] const QString &reason() const { return m_reason; }

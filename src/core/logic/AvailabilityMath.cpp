@@ -49,8 +49,7 @@ TimeRange resize(const TimeRange &range, Edge edge, int minute, int minLength)
     return {range.start, std::max(s, range.start + minLength)};
 }
 
-QList<DayAvailability> set(const QList<DayAvailability> &days, int weekday,
-                           const QList<TimeRange> &ranges)
+QList<DayAvailability> set(const QList<DayAvailability> &days, int weekday, const QList<TimeRange> &ranges)
 {
     QList<DayAvailability> result;
     std::copy_if(days.cbegin(), days.cend(), std::back_inserter(result),

@@ -26,7 +26,9 @@ struct ChangeTracker {
     QSet<QString> seenCancelled;
     Instant cursor;
 
-    explicit ChangeTracker(Instant from) : cursor(std::move(from)) {}
+    explicit ChangeTracker(Instant from)
+        : cursor(std::move(from))
+    {}
 
     // With `prime` the tracker learns everything and announces nothing (first poll after
     // sign-in). A booking created and cancelled between polls gives only `cancelled`.

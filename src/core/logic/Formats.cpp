@@ -94,8 +94,8 @@ std::optional<QString> zoneShortName(const QString &zone, bool daylight, const Q
 QString relativeDay(int days, const QString &locale, Capitalization capitalization)
 {
     const UDisplayContext context = capitalization == Capitalization::startOfSentence
-        ? UDISPCTX_CAPITALIZATION_FOR_BEGINNING_OF_SENTENCE
-        : UDISPCTX_CAPITALIZATION_FOR_MIDDLE_OF_SENTENCE;
+                                        ? UDISPCTX_CAPITALIZATION_FOR_BEGINNING_OF_SENTENCE
+                                        : UDISPCTX_CAPITALIZATION_FOR_MIDDLE_OF_SENTENCE;
     UErrorCode status = U_ZERO_ERROR;
     icu::RelativeDateTimeFormatter formatter(ICUBridge::locale(locale), nullptr, UDAT_STYLE_LONG, context, status);
     if (U_FAILURE(status))
@@ -111,9 +111,9 @@ QStringList weekdaySymbols(const QString &locale, WeekdayWidth width, bool stand
     const icu::DateFormatSymbols symbols(ICUBridge::locale(locale), status);
     if (U_FAILURE(status))
         return {};
-    const auto icuWidth = width == WeekdayWidth::narrow ? icu::DateFormatSymbols::NARROW
-        : width == WeekdayWidth::abbreviated           ? icu::DateFormatSymbols::ABBREVIATED
-                                                       : icu::DateFormatSymbols::WIDE;
+    const auto icuWidth = width == WeekdayWidth::narrow        ? icu::DateFormatSymbols::NARROW
+                          : width == WeekdayWidth::abbreviated ? icu::DateFormatSymbols::ABBREVIATED
+                                                               : icu::DateFormatSymbols::WIDE;
     const auto context = standalone ? icu::DateFormatSymbols::STANDALONE : icu::DateFormatSymbols::FORMAT;
     int32_t count = 0;
     const icu::UnicodeString *names = symbols.getWeekdays(count, context, icuWidth);

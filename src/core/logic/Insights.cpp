@@ -55,7 +55,7 @@ QHash<qint64, qsizetype> makeWeeks(Insights &result, const Instant &now, int wee
 }
 
 // Highest tally; the first index wins ties. No value when nothing was tallied.
-template<std::size_t N>
+template <std::size_t N>
 std::optional<int> busiest(const std::array<int, N> &tally, int firstValue)
 {
     const auto top = std::max_element(tally.begin(), tally.end());
@@ -106,8 +106,7 @@ struct Tallies {
 
 } // namespace
 
-Insights Insights::compute(const QList<Booking> &bookings, const Instant &now, int weeks,
-                           const WeekCalendar &calendar)
+Insights Insights::compute(const QList<Booking> &bookings, const Instant &now, int weeks, const WeekCalendar &calendar)
 {
     Insights result;
     const QList<const Booking *> all = distinctByID(bookings);

@@ -55,8 +55,8 @@ struct Insights {
     // Only these fields decide whether the screen must redraw its charts.
     bool operator==(const Insights &other) const
     {
-        return total == other.total && weeks == other.weeks && heatmap == other.heatmap
-            && cancelled == other.cancelled && noShows == other.noShows;
+        return total == other.total && weeks == other.weeks && heatmap == other.heatmap && cancelled == other.cancelled
+               && noShows == other.noShows;
     }
 
     // `bookings` may repeat an id (the first one counts). The window is the `weeks` weeks ending

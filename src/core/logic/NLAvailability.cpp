@@ -144,8 +144,7 @@ TimeRange rangeOf(const QString &clause)
         sh += 12;
     if ((endSuffix == u"pm" && eh < 12) || (endSuffix.isEmpty() && (eh < 8 || eh * 60 + em <= sh * 60 + sm)))
         eh += 12;
-    return {std::min(sh * 60 + sm, AvailabilityMath::dayMinutes),
-            std::min(eh * 60 + em, AvailabilityMath::dayMinutes)};
+    return {std::min(sh * 60 + sm, AvailabilityMath::dayMinutes), std::min(eh * 60 + em, AvailabilityMath::dayMinutes)};
 }
 
 } // namespace

@@ -39,7 +39,9 @@ bool makeDirectory(const QString &path, QString *error)
 
 } // namespace
 
-SnapshotCache::SnapshotCache(QString path) : m_path(std::move(path)) {}
+SnapshotCache::SnapshotCache(QString path)
+    : m_path(std::move(path))
+{}
 
 std::optional<Snapshot> SnapshotCache::load() const
 {
@@ -60,12 +62,13 @@ bool SnapshotCache::save(const Snapshot &snapshot, QString *error) const
 
     // On any failure below, QSaveFile discards its temporary file and the old one stays.
     QSaveFile file(m_path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()
-        // Before the rename, so that the new file is never visible with a wider mode.
-        && file.setPermissions(ownerOnlyFile) && file.commit();
+    const bool written = file.open(QIODevice::WriteOnly)
+                         && file.write(bytes) == bytes.size()
+                         // Before the rename, so that the new file is never visible with a wider mode.
+                         && file.setPermissions(ownerOnlyFile) && file.commit();
     if (!written)
-        return fail(error, QStringLiteral("Couldn't save %1 (%2)")
-                               .arg(QDir::toNativeSeparators(m_path), file.errorString()));
+        return fail(error,
+                    QStringLiteral("Couldn't save %1 (%2)").arg(QDir::toNativeSeparators(m_path), file.errorString()));
     return true;
 }
 

@@ -96,7 +96,9 @@ qint64 WeekCalendar::Zone::offsetAt(qint64 utc) const
 }
 
 WeekCalendar::WeekCalendar(const QString &locale, const QString &zone)
-    : m_locale(locale), m_zone(zone), m_firstWeekday(localeFirstWeekday(locale))
+    : m_locale(locale)
+    , m_zone(zone)
+    , m_firstWeekday(localeFirstWeekday(locale))
 {
     auto data = std::make_shared<Zone>();
     data->zone = ICUBridge::zone(zone);
@@ -120,8 +122,7 @@ Instant WeekCalendar::fromLocalMSecs(qint64 local) const
     int32_t raw = 0;
     int32_t dst = 0;
     if (m_data->basic)
-        m_data->basic->getOffsetFromLocal(UDate(local), UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, raw, dst,
-                                          status);
+        m_data->basic->getOffsetFromLocal(UDate(local), UCAL_TZ_LOCAL_FORMER, UCAL_TZ_LOCAL_FORMER, raw, dst, status);
     else
         m_data->zone->getOffset(UDate(local), true, raw, dst, status);
     const qint64 utc = U_SUCCESS(status) ? local - raw - dst : local;

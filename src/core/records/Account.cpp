@@ -23,8 +23,7 @@ QJsonValue Codec<Account::Google>::encode(const Account::Google &g)
 Account::Link Codec<Account::Link>::decode(const QJsonValue &value, const CodingPath &path)
 {
     const ObjectReader r(value, path);
-    return Account::Link{r.required<QString>("title"_L1), r.required<int>("minutes"_L1),
-                         r.required<QString>("url"_L1)};
+    return Account::Link{r.required<QString>("title"_L1), r.required<int>("minutes"_L1), r.required<QString>("url"_L1)};
 }
 
 QJsonValue Codec<Account::Link>::encode(const Account::Link &l)

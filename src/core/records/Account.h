@@ -35,7 +35,10 @@ inline size_t qHash(const Account::Google &g, size_t seed = 0)
 {
     return hashFields(seed, g.connected, g.email, g.lastError);
 }
-inline size_t qHash(const Account::Link &l, size_t seed = 0) { return hashFields(seed, l.title, l.minutes, l.url); }
+inline size_t qHash(const Account::Link &l, size_t seed = 0)
+{
+    return hashFields(seed, l.title, l.minutes, l.url);
+}
 inline size_t qHash(const Account &a, size_t seed = 0)
 {
     return hashFields(seed, a.id, a.email, a.name, a.handle, a.base, a.google, a.links);

@@ -13,7 +13,10 @@ struct Answer {
     bool operator==(const Answer &) const = default;
 };
 
-inline size_t qHash(const Answer &x, size_t seed = 0) { return hashFields(seed, x.q, x.a); }
+inline size_t qHash(const Answer &x, size_t seed = 0)
+{
+    return hashFields(seed, x.q, x.a);
+}
 
 QUORVANE_DECLARE_CODEC(Answer)
 

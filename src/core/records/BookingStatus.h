@@ -14,7 +14,10 @@ QString rawValue(BookingStatus status);
 std::optional<BookingStatus> fromRawValue(const QString &raw);
 } // namespace Status
 
-inline size_t qHash(BookingStatus s, size_t seed = 0) { return ::qHash(int(s), seed); }
+inline size_t qHash(BookingStatus s, size_t seed = 0)
+{
+    return ::qHash(int(s), seed);
+}
 
 // Never fails: anything that isn't one of the five words decodes as `unknown`.
 QUORVANE_DECLARE_CODEC(BookingStatus)

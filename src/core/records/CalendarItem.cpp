@@ -7,9 +7,8 @@ namespace quorvane {
 CalendarItem Codec<CalendarItem>::decode(const QJsonValue &value, const CodingPath &path)
 {
     const ObjectReader r(value, path);
-    return CalendarItem{r.required<QString>("id"_L1), r.optional<QString>("title"_L1),
-                        r.required<bool>("primary"_L1), r.required<bool>("writable"_L1),
-                        r.optional<QString>("color"_L1)};
+    return CalendarItem{r.required<QString>("id"_L1), r.optional<QString>("title"_L1), r.required<bool>("primary"_L1),
+                        r.required<bool>("writable"_L1), r.optional<QString>("color"_L1)};
 }
 
 QJsonValue Codec<CalendarItem>::encode(const CalendarItem &c)

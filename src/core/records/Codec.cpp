@@ -106,7 +106,9 @@ void forEachSlice(qsizetype count, const std::function<void(qsizetype from, qsiz
     // Held by every participant: a helper may still be returning from release() when the
     // caller, woken, leaves this function.
     struct Shared {
-        explicit Shared(qsizetype slices) : failures(static_cast<size_t>(slices)) {}
+        explicit Shared(qsizetype slices)
+            : failures(static_cast<size_t>(slices))
+        {}
         std::atomic<qsizetype> next{0};
         std::vector<std::exception_ptr> failures;
         std::counting_semaphore<> finished{0};

@@ -46,7 +46,7 @@ struct DecodeFailure {
 
 // Codec<T>::decode(value, path) -> T, throwing DecodeFailure; Codec<T>::encode(T) -> QJsonValue.
 // Records specialise it beside their declarations.
-template<class T>
+template <class T>
 struct Codec;
 
 namespace codec {
@@ -63,39 +63,39 @@ QString typeName(const QJsonValue &value);
 void forEachSlice(qsizetype count, const std::function<void(qsizetype from, qsizetype to)> &work);
 } // namespace codec
 
-template<>
+template <>
 struct Codec<QString> {
     static QString decode(const QJsonValue &v, const CodingPath &path);
     static QJsonValue encode(const QString &s) { return s; }
 };
 
 // Integers must be JSON numbers with a whole value; a number inside a text is a wrong type.
-template<>
+template <>
 struct Codec<qint64> {
     static qint64 decode(const QJsonValue &v, const CodingPath &path);
     static QJsonValue encode(qint64 i) { return i; }
 };
 
-template<>
+template <>
 struct Codec<int> {
     static int decode(const QJsonValue &v, const CodingPath &path);
     static QJsonValue encode(int i) { return i; }
 };
 
-template<>
+template <>
 struct Codec<bool> {
     static bool decode(const QJsonValue &v, const CodingPath &path);
     static QJsonValue encode(bool b) { return b; }
 };
 
 // Instants: an ISO 8601 text with a zone on the way in, to the second in UTC on the way out.
-template<>
+template <>
 struct Codec<QDateTime> {
     static QDateTime decode(const QJsonValue &v, const CodingPath &path);
     static QJsonValue encode(const QDateTime &d);
 };
 
-template<class T>
+template <class T>
 struct Codec<QList<T>> {
     static QList<T> decode(const QJsonValue &v, const CodingPath &path)
     {
@@ -135,7 +135,7 @@ public:
     ObjectReader(const QJsonValue &value, const CodingPath &path);
 
     // Strict: present, not null, of the right type.
-    template<class T>
+    template <class T>
     [[nodiscard]] T required(QLatin1StringView key) const
     {
         const QJsonValue v = m_object.value(key);
@@ -147,7 +147,7 @@ public:
     }
 
     // Strict optional: absent or null gives no value; a wrong type still fails.
-    template<class T>
+    template <class T>
     [[nodiscard]] std::optional<T> optional(QLatin1StringView key) const
     {
         const QJsonValue v = m_object.value(key);
@@ -157,7 +157,7 @@ public:
     }
 
     // Lenient: any failure at all gives the fallback, without trace.
-    template<class T>
+    template <class T>
     [[nodiscard]] T lenient(QLatin1StringView key, T fallback) const
     {
         try {
@@ -182,13 +182,13 @@ private:
 class ObjectWriter
 {
 public:
-    template<class T>
+    template <class T>
     ObjectWriter &set(QLatin1StringView key, const T &value)
     {
         m_object.insert(key, Codec<T>::encode(value));
         return *this;
     }
-    template<class T>
+    template <class T>
     ObjectWriter &set(QLatin1StringView key, const std::optional<T> &value)
     {
         if (value)
@@ -201,7 +201,7 @@ private:
     QJsonObject m_object;
 };
 
-template<class T>
+template <class T>
 [[nodiscard]] Result<T> fromJson(const QJsonValue &value)
 {
     try {
@@ -211,7 +211,7 @@ template<class T>
     }
 }
 
-template<class T>
+template <class T>
 [[nodiscard]] QJsonValue toJson(const T &value)
 {
     return Codec<T>::encode(value);
@@ -220,9 +220,9 @@ template<class T>
 } // namespace quorvane
 
 // Declares the Codec of a record; the definitions live in the record's .cpp.
-#define QUORVANE_DECLARE_CODEC(Type)                                                  \
-    template<>                                                                        \
-    struct Codec<Type> {                                                              \
-        static Type decode(const QJsonValue &value, const CodingPath &path);          \
-        static QJsonValue encode(const Type &value);                                  \
+#define QUORVANE_DECLARE_CODEC(Type)                                                                                   \
+    template <>                                                                                                        \
+    struct Codec<Type> {                                                                                               \
+        static Type decode(const QJsonValue &value, const CodingPath &path);                                           \
+        static QJsonValue encode(const Type &value);                                                                   \
     };

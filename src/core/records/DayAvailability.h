@@ -15,7 +15,10 @@ struct DayAvailability {
     bool operator==(const DayAvailability &) const = default;
 };
 
-inline size_t qHash(const DayAvailability &d, size_t seed = 0) { return hashFields(seed, d.weekday, d.ranges); }
+inline size_t qHash(const DayAvailability &d, size_t seed = 0)
+{
+    return hashFields(seed, d.weekday, d.ranges);
+}
 
 QUORVANE_DECLARE_CODEC(DayAvailability)
 

@@ -28,8 +28,8 @@ QString newRecordId();
 
 inline size_t qHash(const EventType &e, size_t seed = 0)
 {
-    return hashFields(seed, e.id, e.slug, e.title, e.minutes, e.bufferBefore, e.bufferAfter, e.colorHex,
-                      e.isActive, e.description, e.location, e.locationDetail, e.questions);
+    return hashFields(seed, e.id, e.slug, e.title, e.minutes, e.bufferBefore, e.bufferAfter, e.colorHex, e.isActive,
+                      e.description, e.location, e.locationDetail, e.questions);
 }
 
 QUORVANE_DECLARE_CODEC(EventType)

@@ -1,6 +1,5 @@
 #include "ISO.h"
 
-
 namespace quorvane::ISO {
 
 namespace {

@@ -13,7 +13,7 @@ namespace quorvane::JSON {
 // Compact, with object keys in sorted order.
 [[nodiscard]] QByteArray encode(const QJsonValue &value);
 
-template<class T>
+template <class T>
 [[nodiscard]] QByteArray encode(const T &record)
 {
     return encode(toJson(record));
@@ -22,7 +22,7 @@ template<class T>
 // Parses any JSON text (a bare value at the top too). Syntax errors become a DecodeError.
 [[nodiscard]] Result<QJsonValue> parse(const QByteArray &bytes);
 
-template<class T>
+template <class T>
 [[nodiscard]] Result<T> decode(const QByteArray &bytes)
 {
     Result<QJsonValue> value = parse(bytes);

@@ -21,7 +21,10 @@ QString label(MeetingLocation location);
 QString symbol(MeetingLocation location);
 } // namespace Location
 
-inline size_t qHash(MeetingLocation l, size_t seed = 0) { return ::qHash(int(l), seed); }
+inline size_t qHash(MeetingLocation l, size_t seed = 0)
+{
+    return ::qHash(int(l), seed);
+}
 
 // Decoded by itself it fails on an unknown text; EventType turns that into `meet`.
 QUORVANE_DECLARE_CODEC(MeetingLocation)

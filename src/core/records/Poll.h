@@ -24,7 +24,10 @@ struct Poll {
     bool operator==(const Poll &) const = default;
 };
 
-inline size_t qHash(const Poll::Option &o, size_t seed = 0) { return hashFields(seed, o.start, o.votes); }
+inline size_t qHash(const Poll::Option &o, size_t seed = 0)
+{
+    return hashFields(seed, o.start, o.votes);
+}
 inline size_t qHash(const Poll &p, size_t seed = 0)
 {
     return hashFields(seed, p.id, p.title, p.minutes, p.booked, p.voters, p.options);

@@ -12,20 +12,21 @@ struct DecodeError {
     QString path;   // such as "upcoming[2].start"; empty for the document itself
     QString reason; // such as "Bad date 2026-03-10"
 
-    [[nodiscard]] QString description() const
-    {
-        return path.isEmpty() ? reason : path + QStringLiteral(": ") + reason;
-    }
+    [[nodiscard]] QString description() const { return path.isEmpty() ? reason : path + QStringLiteral(": ") + reason; }
     bool operator==(const DecodeError &) const = default;
 };
 
 // A decoded value or the reason there is none.
-template<class T>
+template <class T>
 class Result
 {
 public:
-    Result(T value) : m_state(std::move(value)) {}
-    Result(DecodeError error) : m_state(std::move(error)) {}
+    Result(T value)
+        : m_state(std::move(value))
+    {}
+    Result(DecodeError error)
+        : m_state(std::move(error))
+    {}
 
     [[nodiscard]] bool ok() const { return std::holds_alternative<T>(m_state); }
     explicit operator bool() const { return ok(); }
@@ -37,7 +38,7 @@ public:
 
     [[nodiscard]] const DecodeError &error() const { return std::get<DecodeError>(m_state); }
 
-    template<class U>
+    template <class U>
     [[nodiscard]] T valueOr(U &&fallback) const
     {
         return ok() ? value() : T(std::forward<U>(fallback));

@@ -16,7 +16,10 @@ struct Slot {
     bool operator==(const Slot &) const = default;
 };
 
-inline size_t qHash(const Slot &s, size_t seed = 0) { return hashFields(seed, s.start, s.end, s.score); }
+inline size_t qHash(const Slot &s, size_t seed = 0)
+{
+    return hashFields(seed, s.start, s.end, s.score);
+}
 
 QUORVANE_DECLARE_CODEC(Slot)
 

@@ -15,7 +15,10 @@ struct TimeRange {
     bool operator==(const TimeRange &) const = default;
 };
 
-inline size_t qHash(const TimeRange &r, size_t seed = 0) { return hashFields(seed, r.start, r.end); }
+inline size_t qHash(const TimeRange &r, size_t seed = 0)
+{
+    return hashFields(seed, r.start, r.end);
+}
 
 QUORVANE_DECLARE_CODEC(TimeRange)
 

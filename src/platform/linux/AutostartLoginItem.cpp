@@ -36,14 +36,12 @@ QString desktopEntryValue(const QByteArray &content, const QString &key)
 
 AutostartLoginItem::AutostartLoginItem()
     : AutostartLoginItem(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), currentExecutable())
-{
-}
+{}
 
 AutostartLoginItem::AutostartLoginItem(const QString &configHome, const QString &executable)
     : m_entryPath(QDir(configHome).filePath(QStringLiteral("autostart/") + entryName))
     , m_executable(executable)
-{
-}
+{}
 
 bool AutostartLoginItem::isEnabled() const
 {
@@ -56,7 +54,7 @@ bool AutostartLoginItem::isEnabled() const
         return false;
     return desktopEntryValue(content, QStringLiteral("X-GNOME-Autostart-enabled"))
                .compare(QLatin1String("false"), Qt::CaseInsensitive)
-        != 0;
+           != 0;
 }
 
 bool AutostartLoginItem::set(bool enabled)

@@ -8,7 +8,8 @@ namespace quorvane {
 
 // Start at login through an XDG autostart entry, "autostart/com.peldrachen.quorvane.desktop"
 // in the user's config directory. Nothing to approve on Linux.
-class AutostartLoginItem final : public LoginItem {
+class AutostartLoginItem final : public LoginItem
+{
 public:
     // The entry in XDG_CONFIG_HOME (~/.config by default) that starts this installation.
     AutostartLoginItem();

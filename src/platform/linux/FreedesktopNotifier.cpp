@@ -38,7 +38,8 @@ QVariantMap hints()
 
 QDBusMessage busCall(const QString &method)
 {
-    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+    return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                          QStringLiteral("/org/freedesktop/DBus"),
                                           QStringLiteral("org.freedesktop.DBus"), method);
 }
 
@@ -103,7 +104,7 @@ QCoro::Task<bool> FreedesktopNotifier::authorized()
     // Some servers (dunst, mako) only start with the first notification sent to them.
     const QDBusPendingCall namesCall = bus.asyncCall(busCall(QStringLiteral("ListActivatableNames")));
     const QDBusMessage names = co_await namesCall;
-    co_return names.type() == QDBusMessage::ReplyMessage && names.arguments().value(0).toStringList().contains(service);
+    co_return names.type() == QDBusMessage::ReplyMessage &&names.arguments().value(0).toStringList().contains(service);
 }
 
 QCoro::Task<bool> FreedesktopNotifier::requestAuthorization()
@@ -137,8 +138,8 @@ QCoro::Task<> FreedesktopNotifier::send(NotificationRequest request)
     // Type titles and names are the server's text: on a markup server they must not become markup.
     const QString body = markup ? request.body.toHtmlEscaped() : request.body;
     QDBusMessage notify = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Notify"));
-    notify << QStringLiteral("Quorvane") << m_idsByIdentifier.value(request.identifier, 0u) << appID
-           << request.title << body << actions(request.category) << hints() << int(-1);
+    notify << QStringLiteral("Quorvane") << m_idsByIdentifier.value(request.identifier, 0u) << appID << request.title
+           << body << actions(request.category) << hints() << int(-1);
     const QDBusPendingCall call = m_bus.asyncCall(notify);
     const QDBusMessage reply = co_await call;
     if (self && reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty())

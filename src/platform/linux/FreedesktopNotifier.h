@@ -17,7 +17,8 @@ namespace quorvane {
 // Notifications through the desktop's org.freedesktop.Notifications server. Announcements go
 // out at once; reminders wait in an in-process scheduler until they are due. A repeated
 // identifier replaces what the server still shows under it.
-class FreedesktopNotifier final : public Notifier {
+class FreedesktopNotifier final : public Notifier
+{
     Q_OBJECT
 public:
     // `locale` and `zone` decide how times read in the texts ("en_US", "Europe/Berlin").

@@ -11,15 +11,21 @@ namespace {
 // that another tool stored under the same pair is found (and erased) too.
 const SecretSchema *tokenSchema()
 {
-    static const SecretSchema schema = {
-        "com.peldrachen.quorvane.Token",
-        SECRET_SCHEMA_DONT_MATCH_NAME,
-        {
-            {"service", SECRET_SCHEMA_ATTRIBUTE_STRING},
-            {"account", SECRET_SCHEMA_ATTRIBUTE_STRING},
-            {nullptr, SecretSchemaAttributeType(0)},
-        },
-        0, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr};
+    static const SecretSchema schema = {"com.peldrachen.quorvane.Token",
+                                        SECRET_SCHEMA_DONT_MATCH_NAME,
+                                        {
+                                            {"service", SECRET_SCHEMA_ATTRIBUTE_STRING},
+                                            {"account", SECRET_SCHEMA_ATTRIBUTE_STRING},
+                                            {nullptr, SecretSchemaAttributeType(0)},
+                                        },
+                                        0,
+                                        nullptr,
+                                        nullptr,
+                                        nullptr,
+                                        nullptr,
+                                        nullptr,
+                                        nullptr,
+                                        nullptr};
     return &schema;
 }
 
@@ -35,7 +41,7 @@ void drop(GError *error)
 std::optional<QByteArray> LibsecretStore::lookup(const QString &service, const QString &account)
 {
     GError *error = nullptr;
-    gchar *password = secret_password_lookup_sync(tokenSchema(), nullptr, &error, //
+    gchar *password = secret_password_lookup_sync(tokenSchema(), nullptr, &error,          //
                                                   "service", service.toUtf8().constData(), //
                                                   "account", account.toUtf8().constData(), nullptr);
     drop(error);
@@ -49,20 +55,19 @@ std::optional<QByteArray> LibsecretStore::lookup(const QString &service, const Q
 void LibsecretStore::remove(const QString &service, const QString &account)
 {
     GError *error = nullptr;
-    secret_password_clear_sync(tokenSchema(), nullptr, &error, //
+    secret_password_clear_sync(tokenSchema(), nullptr, &error,          //
                                "service", service.toUtf8().constData(), //
                                "account", account.toUtf8().constData(), nullptr);
     drop(error);
 }
 
-bool LibsecretStore::add(const QString &service, const QString &account, const QString &label,
-                         const QByteArray &secret)
+bool LibsecretStore::add(const QString &service, const QString &account, const QString &label, const QByteArray &secret)
 {
     GError *error = nullptr;
-    const gboolean stored = secret_password_store_sync(tokenSchema(), SECRET_COLLECTION_DEFAULT,
-                                                       label.toUtf8().constData(), secret.constData(), nullptr, &error, //
-                                                       "service", service.toUtf8().constData(), //
-                                                       "account", account.toUtf8().constData(), nullptr);
+    const gboolean stored = secret_password_store_sync(
+        tokenSchema(), SECRET_COLLECTION_DEFAULT, label.toUtf8().constData(), secret.constData(), nullptr, &error, //
+        "service", service.toUtf8().constData(),                                                                   //
+        "account", account.toUtf8().constData(), nullptr);
     const bool ok = stored && !error;
     drop(error);
     return ok;

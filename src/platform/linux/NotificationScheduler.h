@@ -12,7 +12,8 @@ namespace quorvane {
 // Requests waiting for their time. The desktop has no timed notifications, and the app runs all
 // day in the tray, so the app keeps them: listed, replaced by identifier, removed by prefix or
 // all, and handed out through due() once the clock reaches them.
-class NotificationScheduler : public QObject {
+class NotificationScheduler : public QObject
+{
     Q_OBJECT
 public:
     explicit NotificationScheduler(const Clock &clock, QObject *parent = nullptr);

@@ -1,10 +1,10 @@
 // The shared view pieces' logic: status pills, skeleton bars, hex colours, icons.
-#include "model/AppSection.h"
 #include "components/HexColor.h"
 #include "components/IconProvider.h"
 #include "components/Skeleton.h"
 #include "components/StatusLabel.h"
 #include "components/Symbols.h"
+#include "model/AppSection.h"
 
 #include <QFile>
 #include <QImage>
@@ -30,7 +30,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("noShow");
         QTest::addColumn<Pill>("pill");
         using S = BookingStatus;
-        QTest::newRow("no-show stands above cancelled") << S::cancelled << -600 << true << Pill({u"No-show"_s, Tint::red});
+        QTest::newRow("no-show stands above cancelled")
+            << S::cancelled << -600 << true << Pill({u"No-show"_s, Tint::red});
         QTest::newRow("pending, even once over") << S::pending << -600 << false << Pill({u"Pending"_s, Tint::orange});
         QTest::newRow("cancelled") << S::cancelled << 3600 << false << Pill({u"Cancelled"_s, Tint::secondary});
         QTest::newRow("rejected reads Declined") << S::rejected << 3600 << false << Pill({u"Declined"_s, Tint::red});
@@ -103,7 +104,6 @@ private Q_SLOTS:
             QVERIFY2(drawn != blank, qPrintable(name));
         }
     }
-
 };
 
 QTEST_MAIN(TestViewPieces)

@@ -1,9 +1,9 @@
 // The main window's frame: its texts, and its models over a fixture app as it changes.
 #include "FixtureApp.h"
+#include "components/Tint.h"
 #include "main/MainWindowModel.h"
 #include "main/MainWindowText.h"
 #include "main/SectionListModel.h"
-#include "components/Tint.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoroTask>

@@ -164,7 +164,7 @@ private Q_SLOTS:
     {
         const std::function<void(HostSettings &)> edits[] = {
             [](HostSettings &s) { s.maxMeetingsPerDay = 7; }, [](HostSettings &s) { s.minNoticeMinutes = 120; },
-            [](HostSettings &s) { s.horizonDays = 21; },      [](HostSettings &s) { s.alertMinutesBefore = 15; },
+            [](HostSettings &s) { s.horizonDays = 21; }, [](HostSettings &s) { s.alertMinutesBefore = 15; },
             [](HostSettings &s) { s.addMeet = false; }};
         HostSettings expected = *model->snapshot().settings;
         for (const auto &edit : edits) {

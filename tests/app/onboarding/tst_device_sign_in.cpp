@@ -1,8 +1,8 @@
 // Signing in with a code confirmed in the browser, against the sandbox on loopback and the
 // session's keyring: success and the model taking over, the ways it fails, cancelling and
 // trying again.
-#include "onboarding/DeviceSignIn.h"
 #include "ModelRig.h"
+#include "onboarding/DeviceSignIn.h"
 
 #include <QTest>
 #include <QTimer>
@@ -21,7 +21,8 @@ const QString poll = u"auth/device/poll"_s;
 // at its first poll (autoApprove 0) or only when the test approves it (-1).
 struct Flow {
     explicit Flow(int autoApprove = -1, DeviceSignIn::Timings timings = {20ms, 600s})
-        : rig(autoApprove), signIn(rig.transport, rig.secrets, rig.opener, rig.clock, timings)
+        : rig(autoApprove)
+        , signIn(rig.transport, rig.secrets, rig.opener, rig.clock, timings)
     {
         started = rig.ready(&why);
         signIn.onSuccess = [this] { ++successes; };
@@ -106,9 +107,10 @@ private Q_SLOTS:
         Flow flow(0);
         QVERIFY2(flow.started, qPrintable(flow.why));
         // The network stack may send a dropped request again; drop that too.
-        flow.rig.server.sandbox().faults().plant(
-            path, {.status = status ? std::optional(status) : std::nullopt, .body = body, .drop = !status,
-                   .count = status ? 1 : 5});
+        flow.rig.server.sandbox().faults().plant(path, {.status = status ? std::optional(status) : std::nullopt,
+                                                        .body = body,
+                                                        .drop = !status,
+                                                        .count = status ? 1 : 5});
         flow.begin();
         QTRY_COMPARE(flow.signIn.phase(), Phase::failed);
         const QString said = flow.signIn.message();

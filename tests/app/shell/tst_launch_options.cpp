@@ -14,7 +14,7 @@ private Q_SLOTS:
     void parse_data()
     {
         QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode"); // -1: the app runs
+        QTest::addColumn<int>("exitCode");    // -1: the app runs
         QTest::addColumn<QString>("outcome"); // running: window, server, "self-test"; else found in the message
         const auto runs = [](const char *name, const QStringList &arguments, const QString &outcome) {
             QTest::newRow(name) << arguments << -1 << outcome;

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void verdict_data()
     {
         QTest::addColumn<QString>("root");
-        QTest::addColumn<QString>("other"); // a file below the folder, only compiled
+        QTest::addColumn<QString>("other");   // a file below the folder, only compiled
         QTest::addColumn<QString>("problem"); // empty: the test passes
 
         const QString fine = u"import QtQuick\nItem { width: 10 }\n"_s, broken = u"import QtQuick\nItem { width: }\n"_s;

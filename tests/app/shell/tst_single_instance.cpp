@@ -22,21 +22,25 @@ namespace {
 class RunningInstance
 {
 public:
-    explicit RunningInstance(const QString &path) : instance(path)
+    explicit RunningInstance(const QString &path)
+        : instance(path)
     {
         listening = instance.listen();
-        QObject::connect(&instance, &SingleInstance::requested, &instance, [this](const QString &id) {
-            const QMutexLocker lock(&mutex);
-            received.append(id);
-        }, Qt::DirectConnection);
+        QObject::connect(
+            &instance, &SingleInstance::requested, &instance,
+            [this](const QString &id) {
+                const QMutexLocker lock(&mutex);
+                received.append(id);
+            },
+            Qt::DirectConnection);
         instance.moveToThread(&thread);
         thread.start();
     }
     ~RunningInstance()
     {
         QThread *home = QThread::currentThread();
-        QMetaObject::invokeMethod(&instance, [this, home] { instance.moveToThread(home); },
-                                  Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(
+            &instance, [this, home] { instance.moveToThread(home); }, Qt::BlockingQueuedConnection);
         thread.quit();
         thread.wait();
     }

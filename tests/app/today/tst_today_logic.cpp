@@ -43,7 +43,8 @@ private Q_SLOTS:
         QTest::newRow("Monday first, ends of the week")
             << u"en_GB"_s
             << QStringList{u"2026-03-09T00:00:00-04:00"_s, u"2026-03-15T23:59:00-04:00"_s,
-                           u"2026-03-16T00:00:00-04:00"_s, u"2026-03-08T23:59:00-04:00"_s} << 2;
+                           u"2026-03-16T00:00:00-04:00"_s, u"2026-03-08T23:59:00-04:00"_s}
+            << 2;
         // Saturday 23:30 in New York is already Sunday in UTC, the next US week.
         QTest::newRow("the zone decides the day") << u"en_US"_s << QStringList{u"2026-03-15T03:30:00Z"_s} << 1;
         QTest::newRow("the same week a year later is another week")
@@ -60,7 +61,8 @@ private Q_SLOTS:
         const QList<Booking> today = {booking(now.addSecs(3600), 1'800'000), booking(now.addSecs(7200), 1'800'000)};
         const Poll open{u"p1"_s, u"Sync"_s, 30, false, {}, {}}, booked{u"p2"_s, u"Review"_s, 30, true, {}, {}};
         const WeekCalendar calendar(locale, u"America/New_York"_s);
-        const TodayCounters::Counts counts = TodayCounters::counts(today, upcoming, {open, booked, open}, now, calendar);
+        const TodayCounters::Counts counts =
+            TodayCounters::counts(today, upcoming, {open, booked, open}, now, calendar);
         QCOMPARE(counts.today, 2);
         QTEST(counts.thisWeek, "thisWeek");
         QCOMPARE(counts.openPolls, 2);

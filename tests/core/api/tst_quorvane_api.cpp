@@ -27,18 +27,45 @@ namespace {
 const QString canary = u"canary-7c41e9-do-not-print"_s;
 QStringList g_messages;
 
-Reply answer(int status, const char *body = "") { return Reply{status, body}; }
-Reply cutOff() { return Reply{0, {}, 0, true}; }
+Reply answer(int status, const char *body = "")
+{
+    return Reply{status, body};
+}
+Reply cutOff()
+{
+    return Reply{0, {}, 0, true};
+}
 
 // How a call ended, as one line that tables can compare.
-QString show(const QByteArray &body) { return u"ok "_s + QString::fromUtf8(body); }
-QString show(const Account &a) { return u"%1 %2"_s.arg(a.id).arg(a.email); }
-QString show(const HostSettings &s) { return u"%1 %2"_s.arg(s.handle).arg(s.maxMeetingsPerDay); }
-QString show(const GoogleStatus &g) { return g.connected ? u"connected"_s : u"not connected"_s; }
-QString show(const SlotList &l) { return u"%1 %2 %3"_s.arg(l.type, l.mode).arg(l.slots.size()); }
-QString show(const std::optional<QString> &t) { return t.value_or(u"none"_s); }
-QString show(const std::optional<QUrl> &u) { return u ? u->toString() : u"none"_s; }
-template<class T>
+QString show(const QByteArray &body)
+{
+    return u"ok "_s + QString::fromUtf8(body);
+}
+QString show(const Account &a)
+{
+    return u"%1 %2"_s.arg(a.id).arg(a.email);
+}
+QString show(const HostSettings &s)
+{
+    return u"%1 %2"_s.arg(s.handle).arg(s.maxMeetingsPerDay);
+}
+QString show(const GoogleStatus &g)
+{
+    return g.connected ? u"connected"_s : u"not connected"_s;
+}
+QString show(const SlotList &l)
+{
+    return u"%1 %2 %3"_s.arg(l.type, l.mode).arg(l.slots.size());
+}
+QString show(const std::optional<QString> &t)
+{
+    return t.value_or(u"none"_s);
+}
+QString show(const std::optional<QUrl> &u)
+{
+    return u ? u->toString() : u"none"_s;
+}
+template <class T>
 QString show(const QList<T> &items)
 {
     QStringList ids;
@@ -51,7 +78,7 @@ QString show(const BookingChanges &c)
     return show(c.changes) + u" at "_s + (c.serverTime ? ISO::string(*c.serverTime) : u"none"_s);
 }
 // A call's result as text; settle() turns its failures into text too.
-template<class T>
+template <class T>
 QCoro::Task<QString> shown(QCoro::Task<T> task)
 {
     if constexpr (std::is_void_v<T>) {
@@ -62,7 +89,7 @@ QCoro::Task<QString> shown(QCoro::Task<T> task)
     }
 }
 
-template<class T>
+template <class T>
 QString run(QCoro::Task<T> task)
 {
     return test::run(shown(std::move(task)));
@@ -117,10 +144,7 @@ private Q_SLOTS:
                 previous(type, context, message);
             });
     }
-    void cleanupTestCase()
-    {
-        QVERIFY2(!g_messages.join(u'\n').contains(canary), "a message printed the token");
-    }
+    void cleanupTestCase() { QVERIFY2(!g_messages.join(u'\n').contains(canary), "a message printed the token"); }
 
     // Statuses, network failures, retries and the `error` text, for GET and for writes.
     void statuses_data()
@@ -142,8 +166,8 @@ private Q_SLOTS:
             "server(503, b)", 2);
         row("500 POST, no retry", "POST", 2, {answer(500)}, "server(500, )", 1);
         row("404 with text", "GET", 2, {answer(404, R"({"error":"Gone"})")}, "server(404, Gone)", 1);
-        row("numeric error", "GET", 2, {answer(500, R"({"error":4})"), answer(500, R"({"error":4})")},
-            "server(500, )", 2);
+        row("numeric error", "GET", 2, {answer(500, R"({"error":4})"), answer(500, R"({"error":4})")}, "server(500, )",
+            2);
         row("attempts 0: one try", "GET", 0, {answer(500), answer(200)}, "server(500, )", 1);
         row("network fails every GET", "GET", 2, {cutOff(), cutOff()}, "offline", 2);
         row("503 then network", "GET", 2, {answer(503), cutOff()}, "offline", 2);
@@ -204,7 +228,8 @@ private Q_SLOTS:
             base.setPath(path);
             QCOMPARE(run(h.api(canary, base).request(u"sync/polls/delete"_s, "GET"_ba, {{u"q"_s, u"a&b=c d"_s}})),
                      u"ok {}"_s);
-            QCOMPARE(h.server.requests().last().url.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::FullyEncoded),
+            QCOMPARE(h.server.requests().last().url.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority
+                                                             | QUrl::FullyEncoded),
                      u"/api/sync/polls/delete?q=a%26b%3Dc%20d"_s);
         }
     }
@@ -286,8 +311,8 @@ private Q_SLOTS:
             R"({"changes":[)" + booking + R"(],"serverTime":"2026-03-10T16:00:00+01:00"})",
             "b1 at 2026-03-10T15:00:00.000Z");
         row("changes, no server time", OPERATION(changes(march10)), since, {}, R"({"changes":[]})", " at none");
-        row("changes, bad server time", OPERATION(changes(march10)), since, {},
-            R"({"changes":[],"serverTime":"noon"})", " at none");
+        row("changes, bad server time", OPERATION(changes(march10)), since, {}, R"({"changes":[],"serverTime":"noon"})",
+            " at none");
         row("google", OPERATION(google()), "GET /sync/google", {}, R"({"connected":true})", "connected");
         row("polls", OPERATION(polls()), "GET /sync/polls", {},
             R"({"polls":[{"id":"p1","title":"T","minutes":30,"booked":false,"voters":[],"options":[]}]})", "p1");
@@ -334,7 +359,8 @@ private Q_SLOTS:
         QCOMPARE(QJsonDocument::fromJson(r.body), QJsonDocument::fromJson(sent)); // key order is free
         QCOMPARE(r.body.isEmpty(), sent.isEmpty());
         // The complete set of header names, so that anything added (an Accept, cache headers) shows.
-        QList<QByteArray> names{"accept-encoding", "accept-language", "authorization", "connection", "host", "user-agent"};
+        QList<QByteArray> names{"accept-encoding", "accept-language", "authorization", "connection", "host",
+                                "user-agent"};
         if (!sent.isEmpty())
             names += {"content-length", "content-type"};
         std::sort(names.begin(), names.end());

@@ -76,8 +76,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("minute");
         QTest::addColumn<QString>("expected");
-        const std::pair<int, const char *> rows[] = {{1440, "12 AM"},   {0, "12 AM"},    {720, "12 PM"}, {765, "12:45 PM"},
-                                                     {5, "12:05 AM"},   {570, "9:30 AM"}, {1439, "11:59 PM"}};
+        const std::pair<int, const char *> rows[] = {{1440, "12 AM"},   {0, "12 AM"},    {720, "12 PM"},
+                                                     {765, "12:45 PM"}, {5, "12:05 AM"}, {570, "9:30 AM"},
+                                                     {1439, "11:59 PM"}};
         for (const auto &[minute, text] : rows)
             QTest::addRow("%d", minute) << minute << QString::fromLatin1(text);
     }

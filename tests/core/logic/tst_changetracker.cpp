@@ -57,11 +57,12 @@ private Q_SLOTS:
                                                                u"a=confirmed c=confirmed"_s, u"c=confirmed"_s}
                                                 << QStringList{{}, {}, u"booked:c"_s, {}};
         QTest::newRow("created and cancelled between polls")
-            << QStringList{u"x=cancelled"_s, u"x=confirmed"_s, u"x=cancelled"_s} << QStringList{u"cancelled:x"_s, {}, {}};
-        QTest::newRow("booked, then cancelled") << QStringList{u"y=pending"_s, u"y=cancelled"_s}
-                                                << QStringList{u"booked:y"_s, u"cancelled:y"_s};
-        QTest::newRow("primed cancellation") << QStringList{u"!z=cancelled"_s, u"z=confirmed z=cancelled"_s}
-                                             << QStringList{{}, {}};
+            << QStringList{u"x=cancelled"_s, u"x=confirmed"_s, u"x=cancelled"_s}
+            << QStringList{u"cancelled:x"_s, {}, {}};
+        QTest::newRow("booked, then cancelled")
+            << QStringList{u"y=pending"_s, u"y=cancelled"_s} << QStringList{u"booked:y"_s, u"cancelled:y"_s};
+        QTest::newRow("primed cancellation")
+            << QStringList{u"!z=cancelled"_s, u"z=confirmed z=cancelled"_s} << QStringList{{}, {}};
         QTest::newRow("rejected and unknown leave no trace")
             << QStringList{u"r=rejected u=unknown"_s, u"r=confirmed u=cancelled"_s}
             << QStringList{{}, u"booked:r cancelled:u"_s};
@@ -130,7 +131,8 @@ private Q_SLOTS:
         // 2026-03-10T12:00:00.5Z is 794 836 800.5 s after 2001-01-01.
         const QByteArray json = ChangeTracker(noon.addMSecs(500)).toFileJson();
         QVERIFY2(json.contains("\"cursor\":794836800.5"), json.constData());
-        const auto read = ChangeTracker::fromFileJson(R"({"seenActive":["x"],"seenCancelled":[],"cursor":0.25,"extra":1})");
+        const auto read =
+            ChangeTracker::fromFileJson(R"({"seenActive":["x"],"seenCancelled":[],"cursor":0.25,"extra":1})");
         QVERIFY(read.has_value());
         QCOMPARE(read->cursor, Instant(QDate(2001, 1, 1), QTime(0, 0, 0, 250), Qt::UTC));
         QCOMPARE(read->seenActive, QSet<QString>{u"x"_s});

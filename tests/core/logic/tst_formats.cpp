@@ -53,7 +53,8 @@ private Q_SLOTS:
         QCOMPARE(Formats::relativeDay(3, u"en_US"_s), u"in 3 days"_s);
         QCOMPARE(Formats::relativeDay(2, u"de_DE"_s, Formats::Capitalization::startOfSentence), u"Übermorgen"_s);
         using W = Formats::WeekdayWidth;
-        QCOMPARE(Formats::weekdaySymbols(u"en_US"_s, W::abbreviated, false).join(u' '), u"Sun Mon Tue Wed Thu Fri Sat"_s);
+        QCOMPARE(Formats::weekdaySymbols(u"en_US"_s, W::abbreviated, false).join(u' '),
+                 u"Sun Mon Tue Wed Thu Fri Sat"_s);
         // Finnish inflects weekdays inside dates, so the two contexts really differ.
         QCOMPARE(Formats::weekdaySymbols(u"fi_FI"_s, W::wide, false).first(), u"sunnuntaina"_s);
         QCOMPARE(Formats::weekdaySymbols(u"fi_FI"_s, W::wide, true).first(), u"sunnuntai"_s);
@@ -89,7 +90,8 @@ private Q_SLOTS:
     {
         const WeekCalendar kolkata(u"en_US"_s, u"Asia/Kolkata"_s);
         const WeekCalendar::Position p = kolkata.position(at("2026-01-06T18:45:00Z")); // Wed 00:15
-        QCOMPARE((std::tuple{p.day, p.weekday, p.hour, p.weekStartDay}), (std::tuple{qint64(20460), 4, 0, qint64(20457)}));
+        QCOMPARE((std::tuple{p.day, p.weekday, p.hour, p.weekStartDay}),
+                 (std::tuple{qint64(20460), 4, 0, qint64(20457)}));
         const WeekCalendar utc(u"en_US"_s, u"UTC"_s);
         const WeekCalendar::Position before = utc.position(at("1969-12-31T23:30:00Z")); // Wed 23:30
         QCOMPARE((std::tuple{before.day, before.weekday, before.hour}), (std::tuple{qint64(-1), 4, 23}));

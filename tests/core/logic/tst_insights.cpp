@@ -62,7 +62,11 @@ private Q_SLOTS:
             const Insights r = Insights::compute({b}, now, 12, newYork);
             const qsizetype charted = r.heatmap.size();
             const bool agree = r.total == 1 && r.byType.size() == charted && r.weeks.last().count == charted;
-            return agree ? u"%1 %2 %3 %4 %5"_s.arg(r.confirmed).arg(r.cancelled).arg(r.noShows).arg(r.upcoming).arg(charted)
+            return agree ? u"%1 %2 %3 %4 %5"_s.arg(r.confirmed)
+                               .arg(r.cancelled)
+                               .arg(r.noShows)
+                               .arg(r.upcoming)
+                               .arg(charted)
                          : u"charts disagree"_s;
         };
         using S = BookingStatus;
@@ -77,9 +81,8 @@ private Q_SLOTS:
     void firstDuplicateWins()
     {
         const Instant past = now.addDays(-1);
-        const Insights r = Insights::compute({booking(u"a"_s, past, BookingStatus::cancelled),
-                                              booking(u"b"_s, past), booking(u"a"_s, past),
-                                              booking(u"b"_s, past)},
+        const Insights r = Insights::compute({booking(u"a"_s, past, BookingStatus::cancelled), booking(u"b"_s, past),
+                                              booking(u"a"_s, past), booking(u"b"_s, past)},
                                              now, 12, newYork);
         QCOMPARE((std::tuple{r.total, r.cancelled, r.confirmed, r.weeks.last().count}), (std::tuple{2, 1, 1, 1}));
     }
@@ -88,9 +91,9 @@ private Q_SLOTS:
     {
         // Start → index of its week in the window, or -1. Outside the window a booking still
         // counts everywhere else.
-        const QList<std::pair<const char *, int>> cases{
-            {"2026-01-17T15:00:00Z", 11}, {"2026-01-11T05:00:00Z", 11}, {"2026-01-11T04:59:59Z", 10},
-            {"2025-10-27T15:00:00Z", 0},  {"2025-10-20T15:00:00Z", -1}, {"2026-01-19T15:00:00Z", -1}};
+        const QList<std::pair<const char *, int>> cases{{"2026-01-17T15:00:00Z", 11}, {"2026-01-11T05:00:00Z", 11},
+                                                        {"2026-01-11T04:59:59Z", 10}, {"2025-10-27T15:00:00Z", 0},
+                                                        {"2025-10-20T15:00:00Z", -1}, {"2026-01-19T15:00:00Z", -1}};
         for (const auto &[start, bucket] : cases) {
             const Insights r = Insights::compute({booking(u"a"_s, at(start))}, now, 12, newYork);
             for (qsizetype i = 0; i < r.weeks.size(); ++i)
@@ -110,14 +113,20 @@ private Q_SLOTS:
             {"2026-01-10T17:00:00Z", "z"}, {"2026-01-10T18:00:00Z", "c"}};
         QList<Booking> list;
         for (const auto &[start, type] : rows)
-            list.append(booking(QString::number(list.size()), at(start), BookingStatus::confirmed,
-                                QString::fromLatin1(type)));
+            list.append(
+                booking(QString::number(list.size()), at(start), BookingStatus::confirmed, QString::fromLatin1(type)));
         const Insights r = Insights::compute(list, now, 12, newYork);
         QCOMPARE(r.byType, (QList<Insights::TypeCount>{{u"z"_s, 4}, {u"a"_s, 3}, {u"b"_s, 3}, {u"c"_s, 1}}));
-        QCOMPARE(r.busiestDay, 2); // Monday, Wednesday and Saturday have three each
+        QCOMPARE(r.busiestDay, 2);  // Monday, Wednesday and Saturday have three each
         QCOMPARE(r.busiestHour, 9); // 09, 12 and 15 have three each
-        QCOMPARE(r.heatmap, (QList<Insights::Cell>{{2, 9, 2}, {2, 15, 1}, {4, 9, 1}, {4, 15, 2}, {6, 12, 1},
-                                                   {6, 13, 1}, {7, 12, 2}, {7, 13, 1}}));
+        QCOMPARE(r.heatmap, (QList<Insights::Cell>{{2, 9, 2},
+                                                   {2, 15, 1},
+                                                   {4, 9, 1},
+                                                   {4, 15, 2},
+                                                   {6, 12, 1},
+                                                   {6, 13, 1},
+                                                   {7, 12, 2},
+                                                   {7, 13, 1}}));
         QCOMPARE(r.weeks.at(10).count, 11);
     }
 
@@ -125,19 +134,20 @@ private Q_SLOTS:
     {
         // Saturday 23:30 and Sunday 00:30 on each side of the spring-forward of 8 March.
         QList<Booking> list;
-        for (const char *start : {"2026-03-08T04:30:00Z", "2026-03-08T05:30:00Z", "2026-03-15T03:30:00Z",
-                                  "2026-03-15T04:15:00Z"})
+        for (const char *start :
+             {"2026-03-08T04:30:00Z", "2026-03-08T05:30:00Z", "2026-03-15T03:30:00Z", "2026-03-15T04:15:00Z"})
             list.append(booking(QString::number(list.size()), at(start)));
         const Insights ny = Insights::compute(list, at("2026-03-18T16:00:00Z"), 3, newYork);
-        QCOMPARE(ny.weeks, (QList<Insights::Week>{{at("2026-03-01T05:00:00Z"), 1}, {at("2026-03-08T05:00:00Z"), 2},
+        QCOMPARE(ny.weeks, (QList<Insights::Week>{{at("2026-03-01T05:00:00Z"), 1},
+                                                  {at("2026-03-08T05:00:00Z"), 2},
                                                   {at("2026-03-15T04:00:00Z"), 1}}));
         QCOMPARE(ny.heatmap, (QList<Insights::Cell>{{1, 0, 2}, {7, 23, 2}}));
 
         // Sunday 10:00 ends the older week, Monday 00:30 starts the newer; weekdays stay Sunday-based.
         const WeekCalendar berlin(u"de_DE"_s, u"Europe/Berlin"_s);
-        const Insights de = Insights::compute({booking(u"sun"_s, at("2026-01-11T09:00:00Z")),
-                                               booking(u"mon"_s, at("2026-01-11T23:30:00Z"))},
-                                              now, 2, berlin);
+        const Insights de = Insights::compute(
+            {booking(u"sun"_s, at("2026-01-11T09:00:00Z")), booking(u"mon"_s, at("2026-01-11T23:30:00Z"))}, now, 2,
+            berlin);
         QCOMPARE(de.weeks, (QList<Insights::Week>{{at("2026-01-04T23:00:00Z"), 1}, {at("2026-01-11T23:00:00Z"), 1}}));
         QCOMPARE(de.heatmap, (QList<Insights::Cell>{{1, 10, 1}, {2, 0, 1}}));
     }

@@ -28,7 +28,8 @@ private Q_SLOTS:
         QStringList days;
         for (int day = 2; day <= 6; ++day)
             days.append(u"{\"ranges\":[{\"end\":1020,\"start\":540}],\"weekday\":%1}"_s.arg(day));
-        QCOMPARE(quorvanectl({u"hours"_s, u"--json"_s, u"weekdays 9-5, fri 9am-1pm"_s}), u"0 [%1]\n"_s.arg(days.join(u',')));
+        QCOMPARE(quorvanectl({u"hours"_s, u"--json"_s, u"weekdays 9-5, fri 9am-1pm"_s}),
+                 u"0 [%1]\n"_s.arg(days.join(u',')));
         QCOMPARE(quorvanectl({u"hours"_s, u"--json"_s, u"whenever"_s}), u"0 []\n"_s);
         // Readable: the words given as separate arguments, Monday first.
         QCOMPARE(quorvanectl({u"hours"_s, u"sun"_s, u"10-2,"_s, u"mon"_s, u"9:30-12,"_s, u"mon"_s, u"1-5"_s}),

@@ -25,7 +25,8 @@ private Q_SLOTS:
             }
             const QString head = u"Here are a few times that work for a 30-minute "_s;
             const QString tail = u"\nGrab one (or see more options) here: https://q.example/ann/intro"_s;
-            const QString t = ShareFormatter::text(slots, title, 30, u"https://q.example/ann/intro"_s, zone, locale, at(now));
+            const QString t =
+                ShareFormatter::text(slots, title, 30, u"https://q.example/ann/intro"_s, zone, locale, at(now));
             return t.startsWith(head) && t.endsWith(tail) ? t.mid(head.size()).chopped(tail.size()) : t;
         };
         const QString ny = u"America/New_York"_s;

@@ -95,7 +95,8 @@ private Q_SLOTS:
         QTemporaryDir tmp;
         const SnapshotCache cache(tmp.filePath(u"cache-v2.json"_s));
         QVERIFY(!cache.load().has_value());
-        for (const QByteArray &contents : {stored.left(120), R"({"bookings": [], "savedAt": "2026-03-09T08:00:00Z"})"_ba}) {
+        for (const QByteArray &contents :
+             {stored.left(120), R"({"bookings": [], "savedAt": "2026-03-09T08:00:00Z"})"_ba}) {
             write(cache.path(), contents);
             QVERIFY(!cache.load().has_value());
         }

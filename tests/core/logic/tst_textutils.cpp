@@ -25,8 +25,8 @@ private Q_SLOTS:
         constexpr qint64 day = 24 * 3600'000LL;
         // Seconds are cut, then minutes rounded up; days are whole days.
         const std::pair<qint64, const char *> rows[] = {
-            {-90'000, "now"},     {900, "now"},           {1'000, "in 1m"},         {61'000, "in 2m"},
-            {3'540'000, "in 59m"}, {3'541'000, "in 1h"}, {3'660'000, "in 1h 1m"}, {day - 59'000, "in 1d"},
+            {-90'000, "now"},           {900, "now"},         {1'000, "in 1m"},        {61'000, "in 2m"},
+            {3'540'000, "in 59m"},      {3'541'000, "in 1h"}, {3'660'000, "in 1h 1m"}, {day - 59'000, "in 1d"},
             {2 * day - 60'000, "in 1d"}};
         for (const auto &[msecs, text] : rows)
             QTest::addRow("%lld ms", msecs) << msecs << QString::fromLatin1(text);
@@ -88,11 +88,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("b");
         QTest::addColumn<bool>("newer");
         const std::tuple<const char *, const char *, bool> rows[] = {
-            {"2.0", "1.9.9", true},   {"1.10", "1.9", true}, {"1.9", "1.10", false}, {"1.0", "1", false},
-            {"1.0.1", "1", true},     {"2.0", "2.0", false}, {"1.2rc1", "1.1", false}, {"1..2", "1.1", true}, {"1. 5", "1.0", false},
+            {"2.0", "1.9.9", true},
+            {"1.10", "1.9", true},
+            {"1.9", "1.10", false},
+            {"1.0", "1", false},
+            {"1.0.1", "1", true},
+            {"2.0", "2.0", false},
+            {"1.2rc1", "1.1", false},
+            {"1..2", "1.1", true},
+            {"1. 5", "1.0", false},
             {"1.\u0665", "1.0", false}, // digits of other scripts are not numbers
             // Too large for 64 bits: 0, not a wrapped-around negative number.
-            {"1.0", "1.9223372036854775808", false}, {"1.9223372036854775807", "1.1", true}};
+            {"1.0", "1.9223372036854775808", false},
+            {"1.9223372036854775807", "1.1", true}};
         for (const auto &[a, b, newer] : rows)
             QTest::addRow("%s than %s", a, b) << QString::fromUtf8(a) << QString::fromUtf8(b) << newer;
     }

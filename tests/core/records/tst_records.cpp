@@ -13,7 +13,7 @@ using namespace quorvane;
 
 namespace {
 
-template<class T>
+template <class T>
 bool decodes(const char *json)
 {
     return JSON::decode<T>(QByteArray(json)).ok();
@@ -23,7 +23,8 @@ QJsonObject bookingObject()
 {
     return QJsonDocument::fromJson(R"({"id":"b1","type":"intro","start":"2026-03-10T14:00:00Z",)"
                                    R"("end":"2026-03-10T14:30:00Z","name":"Ann Lee","email":"ann@example.com",)"
-                                   R"("tz":"Europe/Paris","status":"confirmed"})").object();
+                                   R"("tz":"Europe/Paris","status":"confirmed"})")
+        .object();
 }
 
 } // namespace
@@ -41,7 +42,9 @@ private Q_SLOTS:
         QCOMPARE((std::tuple{a.slug, a.title, a.minutes, a.colorHex, a.isActive, a.location, a.questions.size()}),
                  (std::tuple{u"intro"_s, u"Meeting"_s, 30, u"#0A84FF"_s, true, MeetingLocation::meet, qsizetype(0)}));
         // A generated id: canonical upper-case UUID, and new at every decoding.
-        QVERIFY(QRegularExpression(u"^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"_s).match(a.id).hasMatch());
+        QVERIFY(QRegularExpression(u"^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"_s)
+                    .match(a.id)
+                    .hasMatch());
         QVERIFY(a.id != JSON::decode<EventType>(R"({"slug":"intro"})")->id);
 
         const auto read = [](const char *json) {
@@ -68,7 +71,8 @@ private Q_SLOTS:
 
     void hostSettingsListsAreAllOrNothing()
     {
-        const Result<HostSettings> s = JSON::decode<HostSettings>(R"({ "owner":"Ilse","handle":"ilse","maxMeetingsPerDay":"7", "eventTypes":[{"slug":"a"},{}], "availability":[{"weekday":2,"ranges":[{"start":540,"end":1020}]}], "focusBlocks":[{"id":"f","weekday":2,"range":{"start":600},"label":"Deep work"}]})");
+        const Result<HostSettings> s = JSON::decode<HostSettings>(
+            R"({ "owner":"Ilse","handle":"ilse","maxMeetingsPerDay":"7", "eventTypes":[{"slug":"a"},{}], "availability":[{"weekday":2,"ranges":[{"start":540,"end":1020}]}], "focusBlocks":[{"id":"f","weekday":2,"range":{"start":600},"label":"Deep work"}]})");
         QVERIFY(s.ok());
         QVERIFY(s->eventTypes.isEmpty());  // one bad element empties the list
         QVERIFY(s->focusBlocks.isEmpty()); // a nested strict record that fails
@@ -148,8 +152,8 @@ private Q_SLOTS:
         QVERIFY(a.isActive());
 
         Booking c = a;
-        for (BookingStatus s : {BookingStatus::cancelled, BookingStatus::rejected, BookingStatus::unknown,
-                                BookingStatus::pending}) {
+        for (BookingStatus s :
+             {BookingStatus::cancelled, BookingStatus::rejected, BookingStatus::unknown, BookingStatus::pending}) {
             c.status = s;
             QCOMPARE(c.isActive(), s == BookingStatus::pending);
         }
@@ -180,7 +184,8 @@ private Q_SLOTS:
         QVERIFY(!decodes<SlotList>(R"({"type":"intro","slots":[]})"));
         QVERIFY(!decodes<ReleaseInfo>(R"({"version":"2.1","size":"1024","filename":"q"})"));
         const QJsonObject snapshot = QJsonDocument::fromJson(R"({"upcoming":[],"history":[],"polls":[],)"
-                                                             R"("savedAt":"2026-03-10T14:00:00Z"})").object();
+                                                             R"("savedAt":"2026-03-10T14:00:00Z"})")
+                                         .object();
         QVERIFY(fromJson<Snapshot>(snapshot).ok());
         for (const QString &key : snapshot.keys()) { // each part of a snapshot is required
             QJsonObject partial = snapshot;

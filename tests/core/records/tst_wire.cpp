@@ -76,8 +76,9 @@ private Q_SLOTS:
         b.tz = u"UTC"_s;
         b.noShow = false;
         QCOMPARE(JSON::encode(b),
-                 QByteArray(R"({"email":"ann@example.com","end":"2026-03-10T14:30:00Z","id":"b1","name":"Ann",)"
-                            R"("noShow":false,"start":"2026-03-10T14:00:00Z","status":"pending","type":"intro","tz":"UTC"})"));
+                 QByteArray(
+                     R"({"email":"ann@example.com","end":"2026-03-10T14:30:00Z","id":"b1","name":"Ann",)"
+                     R"("noShow":false,"start":"2026-03-10T14:00:00Z","status":"pending","type":"intro","tz":"UTC"})"));
     }
 
     // Long lists are decoded in slices on several threads; the result and the error must be

@@ -45,12 +45,15 @@ struct View {
         return out;
     }
     [[nodiscard]] QQuickItem *item(const QString &name) const { return all(name).value(0); }
-    [[nodiscard]] QString text(const QString &name) const { return item(name) ? item(name)->property("text").toString() : QString(); }
+    [[nodiscard]] QString text(const QString &name) const
+    {
+        return item(name) ? item(name)->property("text").toString() : QString();
+    }
     // On screen: it and every parent visible and not faded out.
     [[nodiscard]] bool shows(const QString &name) const
     {
         const QQuickItem *at = item(name);
-        for (; at && at->isVisible() && at->opacity() > 0; at = at->parentItem()) { }
+        for (; at && at->isVisible() && at->opacity() > 0; at = at->parentItem()) {}
         return item(name) && !at;
     }
     void click(const QQuickItem *item, Qt::KeyboardModifiers modifiers = {}) const

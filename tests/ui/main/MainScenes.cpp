@@ -21,9 +21,8 @@ Scene withData(const QString &name, std::function<void(Stage &)> prepare)
 
 QUORVANE_SCENES(mainframe)
 {
-    Scene placeholder = withData(u"main-section-placeholder"_s, [](Stage &stage) {
-        stage.app().model().setSection(AppSection::insights);
-    });
+    Scene placeholder = withData(u"main-section-placeholder"_s,
+                                 [](Stage &stage) { stage.app().model().setSection(AppSection::insights); });
     Scene noLinks = withData(u"main-no-share-links"_s, [](Stage &stage) {
         for (EventType &type : stage.app().transport().data.settings->eventTypes)
             type.isActive = false;
@@ -33,7 +32,8 @@ QUORVANE_SCENES(mainframe)
         if (QObject *toggle = stage.find(u"sidebarToggle"_s))
             QMetaObject::invokeMethod(toggle, "clicked");
     });
-    Scene smallest = withData(u"main-smallest"_s, [](Stage &stage) { stage.app().model().setSection(AppSection::bookings); });
+    Scene smallest =
+        withData(u"main-smallest"_s, [](Stage &stage) { stage.app().model().setSection(AppSection::bookings); });
     smallest.size = QSize(940, 620);
     return {placeholder, noLinks, folded, smallest};
 }

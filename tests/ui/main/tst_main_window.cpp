@@ -24,9 +24,11 @@ namespace {
 // The main window alone on a fixture app (which outlives it), shown offscreen.
 struct WindowRig : FixtureApp, View {
     explicit WindowRig(FixtureApp::State state)
-        : FixtureApp(state), View({}, QUrl(u"qrc:/qt/qml/Quorvane/Main/MainWindow.qml"_s))
+        : FixtureApp(state)
+        , View({}, QUrl(u"qrc:/qt/qml/Quorvane/Main/MainWindow.qml"_s))
     {
-        QObject::connect(&model(), &AppModel::loadingChanged, &engine, [this] { refreshes += model().loading() ? 1 : 0; });
+        QObject::connect(&model(), &AppModel::loadingChanged, &engine,
+                         [this] { refreshes += model().loading() ? 1 : 0; });
     }
     int refreshes = 0; // started since the window opened
 };
@@ -124,7 +126,8 @@ private Q_SLOTS:
         QCOMPARE(rig.model().section(), AppSection::today); // the first row stays the first
 
         QQuickItem *first = nullptr;
-        QMetaObject::invokeMethod(rig.item(u"shareLinkRows"_s), "itemAt", Q_RETURN_ARG(QQuickItem *, first), Q_ARG(int, 0));
+        QMetaObject::invokeMethod(rig.item(u"shareLinkRows"_s), "itemAt", Q_RETURN_ARG(QQuickItem *, first),
+                                  Q_ARG(int, 0));
         rig.click(first);
         QCOMPARE(rig.clipboard.texts, QStringList{rig.model().link(rig.model().activeTypes().first())});
         QVERIFY(rig.shows(u"shareLinksHeading"_s));

@@ -18,11 +18,10 @@ namespace {
 // The guide in its window on a fixture app signed out and not yet onboarded (which outlives it).
 struct Rig : FixtureApp, View {
     Rig()
-        : FixtureApp(FixtureApp::Options{.state = FixtureApp::State::signedOut, .onboarded = false}),
-          View("import QtQuick\nimport Quorvane.Onboarding\n"
+        : FixtureApp(FixtureApp::Options{.state = FixtureApp::State::signedOut, .onboarded = false})
+        , View("import QtQuick\nimport Quorvane.Onboarding\n"
                "Window { width: 540; height: 470; visible: true; OnboardingView { anchors.fill: parent } }")
-    {
-    }
+    {}
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 // The sign-in panel driven like a user would, against the sandbox on loopback and the test
 // session's keyring. The flow's own rules are tst_device_sign_in's.
-#include "onboarding/DeviceSignIn.h"
 #include "ModelRig.h"
+#include "onboarding/DeviceSignIn.h"
 #include "onboarding/SetupServices.h"
 #include "support/MemoryLoginItem.h"
 #include "ui/components/ItemLookup.h"
@@ -32,7 +32,8 @@ struct Rig {
             return false;
         models.keychain.write({});
         model = models.makeModel();
-        setup = std::make_unique<SetupServices>(*model, models.environment(), loginItem, DeviceSignIn::Timings{20ms, 600s});
+        setup =
+            std::make_unique<SetupServices>(*model, models.environment(), loginItem, DeviceSignIn::Timings{20ms, 600s});
         setupForQml = setup.get();
         view = std::make_unique<View>("import QtQuick\nimport Quorvane.Onboarding\nWindow { width: 420; height: 220; "
                                       "visible: true; SignInPanel { x: 20; y: 20; width: 380 } }");

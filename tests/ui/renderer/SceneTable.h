@@ -20,8 +20,8 @@ bool add(const char *group, Maker maker);
 
 } // namespace quorvane::test
 
-#define QUORVANE_SCENES(group)                                                                        \
-    static QList<quorvane::test::Scene> quorvaneScenes_##group();                                     \
-    [[maybe_unused]] static const bool quorvaneScenesAdded_##group =                                  \
-        quorvane::test::SceneTable::add(#group, &quorvaneScenes_##group);                             \
+#define QUORVANE_SCENES(group)                                                                                         \
+    static QList<quorvane::test::Scene> quorvaneScenes_##group();                                                      \
+    [[maybe_unused]] static const bool quorvaneScenesAdded_##group =                                                   \
+        quorvane::test::SceneTable::add(#group, &quorvaneScenes_##group);                                              \
     static QList<quorvane::test::Scene> quorvaneScenes_##group()

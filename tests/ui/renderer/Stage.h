@@ -4,8 +4,8 @@
 #include "Scene.h"
 
 #include <QImage>
-#include <QQmlApplicationEngine>
 #include <QPointer>
+#include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QStringList>
 

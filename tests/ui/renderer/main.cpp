@@ -68,7 +68,7 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("TZ", "America/New_York"); // the fixture's zone, for anything that asks the system
-    QApplication app(argc, argv); // Qt Charts needs the widgets application
+    QApplication app(argc, argv);      // Qt Charts needs the widgets application
     QApplication::setQuitOnLastWindowClosed(false);
     QQuickStyle::setStyle(u"Fusion"_s);
     QLocale::setDefault(QLocale(u"en_US"_s));

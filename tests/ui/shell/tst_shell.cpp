@@ -16,9 +16,9 @@ namespace {
 // The shell as the app loads it, on the fixture app (which outlives it).
 struct ShellRig : FixtureApp, View {
     explicit ShellRig(FixtureApp::Options options = {})
-        : FixtureApp(options), View({}, QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s))
-    {
-    }
+        : FixtureApp(options)
+        , View({}, QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s))
+    {}
     [[nodiscard]] static QQuickWindow *window(const QString &id)
     {
         for (QWindow *w : QGuiApplication::topLevelWindows()) {
@@ -108,8 +108,8 @@ private Q_SLOTS:
         QTest::newRow("Settings") << u"settings"_s << QKeySequence(u"Ctrl+,"_s) << u"window settings"_s;
         QTest::newRow("Quit") << u"quit"_s << QKeySequence(u"Ctrl+Q"_s) << u"quit"_s;
         QTest::newRow("Command Palette") << u"commandPalette"_s << QKeySequence(u"Ctrl+K"_s) << u"showPalette"_s;
-        QTest::newRow("Join Next Meeting") << u"joinNext"_s << QKeySequence(u"Ctrl+Shift+J"_s)
-                                           << u"join https://meet.google.com/qvn-0001-ilse"_s;
+        QTest::newRow("Join Next Meeting")
+            << u"joinNext"_s << QKeySequence(u"Ctrl+Shift+J"_s) << u"join https://meet.google.com/qvn-0001-ilse"_s;
         QTest::newRow("Welcome Guide") << u"welcomeGuide"_s << none << u"window onboarding"_s;
         QTest::newRow("About") << u"about"_s << none << u"window about"_s;
         QTest::newRow("Made by") << u"madeBy"_s << none << u"window about"_s;
@@ -129,7 +129,8 @@ private Q_SLOTS:
             QSignalSpy quit(&rig.shell(), &ShellController::quitRequested);
             rig.model().setProperty("section", u"bookings"_s);
             // The main window's menu action or item of that name.
-            QObject *item = ShellRig::window(u"main"_s)->property("menuBar").value<QObject *>()->findChild<QObject *>(entry);
+            QObject *item =
+                ShellRig::window(u"main"_s)->property("menuBar").value<QObject *>()->findChild<QObject *>(entry);
             QVERIFY2(item && item->property("enabled").toBool(), qPrintable(entry));
             if (byKey) {
                 QQuickWindow *main = ShellRig::window(u"main"_s);

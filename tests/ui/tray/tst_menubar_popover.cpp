@@ -23,9 +23,9 @@ namespace {
 // The popover alone on a fixture app (which outlives it), shown offscreen.
 struct PopoverRig : FixtureApp, View {
     explicit PopoverRig(FixtureApp::State state = FixtureApp::State::withData)
-        : FixtureApp(state), View("import Quorvane.Tray\nMenuBarPopover { visible: true }")
-    {
-    }
+        : FixtureApp(state)
+        , View("import Quorvane.Tray\nMenuBarPopover { visible: true }")
+    {}
 };
 } // namespace
 
@@ -44,12 +44,13 @@ private Q_SLOTS:
     void content_data()
     {
         QTest::addColumn<FixtureApp::State>("state");
-        QTest::addColumn<bool>("revoked"); // the server refused the token; the cache stays
+        QTest::addColumn<bool>("revoked");  // the server refused the token; the cache stays
         QTest::addColumn<QString>("parts"); // on screen
         const QString content = u"signedInContent"_s;
         QTest::newRow("signed in") << FixtureApp::State::withData << false << content;
         QTest::newRow("signed out, nothing cached") << FixtureApp::State::signedOut << false << u"signInButton"_s;
-        QTest::newRow("token revoked, data cached") << FixtureApp::State::withData << true << content + u" popoverBanner"_s;
+        QTest::newRow("token revoked, data cached")
+            << FixtureApp::State::withData << true << content + u" popoverBanner"_s;
         QTest::newRow("toast") << FixtureApp::State::toast << false << content + u" toast"_s;
     }
     void content()
@@ -69,7 +70,7 @@ private Q_SLOTS:
             }
             return out.join(u' ');
         };
-        QTRY_COMPARE(shown(), parts); // the banner slides in, the sign-in panel loads
+        QTRY_COMPARE(shown(), parts);               // the banner slides in, the sign-in panel loads
         if (parts.startsWith(u"signedInContent"_s)) // a copy button per active type: Office Hours is off
             QCOMPARE(view.all(u"copyLink"_s).size(), 3);
     }
@@ -127,7 +128,6 @@ private Q_SLOTS:
             QVERIFY(view.shows(u"toast"_s) && !view.shows(u"popoverBanner"_s));
         }
     }
-
 };
 
 QTEST_MAIN(TestMenuBarPopover)

@@ -42,7 +42,7 @@ struct TrayDesk {
         env.insert(u"DISPLAY"_s, display);
         tray.setProcessEnvironment(env);
         tray.start(u"trayer"_s, {u"--edge"_s, u"top"_s, u"--align"_s, u"right"_s, u"--widthtype"_s, u"request"_s,
-                                u"--height"_s, u"24"_s, u"--transparent"_s, u"false"_s});
+                                 u"--height"_s, u"24"_s, u"--transparent"_s, u"false"_s});
         return tray.waitForStarted() ? QString() : u"trayer did not start"_s;
     }
     ~TrayDesk()
@@ -65,9 +65,10 @@ struct TrayDesk {
     //     0x200006 "app": ("app" "app")  22x22+0+0  +1257+1
     [[nodiscard]] QRect placed(const QSize &size) const
     {
-        const QRegularExpression line(u"\\(\"%1\" \"%1\"\\)\\s+(\\d+)x(\\d+)\\S*\\s+\\+(-?\\d+)\\+(-?\\d+)"_s
-                                          .arg(QCoreApplication::applicationName()));
-        for (const QRegularExpressionMatch &m : line.globalMatch(QString::fromUtf8(run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s})))) {
+        const QRegularExpression line(u"\\(\"%1\" \"%1\"\\)\\s+(\\d+)x(\\d+)\\S*\\s+\\+(-?\\d+)\\+(-?\\d+)"_s.arg(
+            QCoreApplication::applicationName()));
+        for (const QRegularExpressionMatch &m :
+             line.globalMatch(QString::fromUtf8(run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s})))) {
             const QRect r(m.captured(3).toInt(), m.captured(4).toInt(), m.captured(1).toInt(), m.captured(2).toInt());
             if (r.size() == size)
                 return r;
@@ -115,8 +116,8 @@ private Q_SLOTS:
         // A real click through the X server, once the host has mapped the icon where it put it.
         QTest::qWait(300);
         const QPoint middle = icon.center();
-        desk->run(u"xdotool"_s, {u"mousemove"_s, QString::number(middle.x()), QString::number(middle.y()),
-                                 u"click"_s, u"1"_s});
+        desk->run(u"xdotool"_s,
+                  {u"mousemove"_s, QString::number(middle.x()), QString::number(middle.y()), u"click"_s, u"1"_s});
         QTRY_VERIFY(tray.popover() && tray.popover()->isVisible());
         const QRect popover = tray.popover()->geometry();
         // Below the icon on this top panel, and reaching across it.
