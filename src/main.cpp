@@ -11,10 +11,13 @@
 #include "model/AppModel.h"
 #include "model/Preferences.h"
 #include "onboarding/SetupServices.h"
+#include "shell/AppWindow.h"
+#include "shell/CommandTable.h"
 #include "shell/LaunchOptions.h"
 #include "shell/SelfTest.h"
 #include "shell/ShellController.h"
 #include "shell/SingleInstance.h"
+#include "shell/ViewTable.h"
 #include "tray/TrayController.h"
 
 #include "QuorvaneQmlModules.h"
@@ -91,27 +94,32 @@ int main(int argc, char *argv[])
     AppModel model(env);
     SetupServices setup(model, env, loginItem);
     ShellController shell;
+    CommandTable commands(model, shell, opener);
 
     QObject::connect(&notifier, &Notifier::joinRequested, &notifier, [&opener](const QUrl &url) { opener.open(url); });
-    QObject::connect(&notifier, &Notifier::activateRequested, &shell, [&shell] { shell.open(u"main"_s); });
-    QObject::connect(&instance, &SingleInstance::requested, &shell, &ShellController::open);
+    QObject::connect(&notifier, &Notifier::activateRequested, &shell, [&shell] { shell.open(AppWindow::Main); });
+    QObject::connect(&instance, &SingleInstance::requested, &shell, [&shell](const QString &name) {
+        if (const std::optional<AppWindow::Id> window = AppWindow::fromName(name))
+            shell.open(*window);
+    });
     QObject::connect(&shell, &ShellController::quitRequested, &app, &QApplication::quit);
 
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "App", &model);
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Shell", &shell);
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Setup", &setup);
+    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Commands", &commands);
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s);
     engine.addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
     const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
     if (options.selfTest)
-        return SelfTest(engine, started).run(root, SelfTest::qmlFiles());
+        return SelfTest(engine, started).run(root, SelfTest::qmlFiles(), ViewTable::all());
 
     engine.load(root);
     if (engine.rootObjects().isEmpty())
         return 1;
     TrayController tray(engine, model);
-    if (options.window != "main"_L1)
-        shell.open(options.window);
+    if (const std::optional<AppWindow::Id> window = AppWindow::fromName(options.window); window != AppWindow::Main)
+        shell.open(window.value_or(AppWindow::Main));
     return QApplication::exec();
 }

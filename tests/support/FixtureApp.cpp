@@ -94,6 +94,7 @@ void FixtureApp::prepare(const Options &options)
     env.timings.toast = std::chrono::hours(1); // a toast stays put for a picture
     m_model = std::make_unique<AppModel>(env);
     m_setup = std::make_unique<SetupServices>(*m_model, env, loginItem);
+    m_commands = std::make_unique<CommandTable>(*m_model, m_shell, opener);
 
     // The banners as the first refresh would leave them, there before anything starts.
     if (state == State::offline)
@@ -116,6 +117,12 @@ void FixtureApp::registerQmlSingletons()
             Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
             QQmlEngine::setObjectOwnership(&current->shell(), QQmlEngine::CppOwnership);
             return &current->shell();
+        });
+    qmlRegisterSingletonType<CommandTable>(
+        "Quorvane.App", 1, 0, "Commands", [](QQmlEngine *, QJSEngine *) -> CommandTable * {
+            Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
+            QQmlEngine::setObjectOwnership(&current->commands(), QQmlEngine::CppOwnership);
+            return &current->commands();
         });
     qmlRegisterSingletonType<SetupServices>(
         "Quorvane.App", 1, 0, "Setup", [](QQmlEngine *, QJSEngine *) -> SetupServices * {

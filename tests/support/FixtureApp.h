@@ -10,6 +10,7 @@
 #include "model/AppModel.h"
 #include "model/Preferences.h"
 #include "onboarding/SetupServices.h"
+#include "shell/CommandTable.h"
 #include "shell/ShellController.h"
 
 #include <QSettings>
@@ -63,13 +64,14 @@ public:
     [[nodiscard]] AppModel &model() { return *m_model; }
     [[nodiscard]] ShellController &shell() { return m_shell; }
     [[nodiscard]] SetupServices &setup() { return *m_setup; }
+    [[nodiscard]] CommandTable &commands() { return *m_commands; }
     [[nodiscard]] const AppEnvironment &environment() const { return m_environment; }
     [[nodiscard]] Preferences &preferences() { return *m_preferences; }
     [[nodiscard]] FixtureTransport &transport() { return *m_transport; }
     [[nodiscard]] const QString &dataDirectory() const { return m_dataDirectory; }
     [[nodiscard]] static const char *name(State state);
 
-    // Makes `App`, `Shell` and `Setup` in QML resolve to the newest FixtureApp. Once per process,
+    // Makes `App`, `Shell`, `Commands` and `Setup` in QML resolve to the newest FixtureApp. Once per process,
     // before the first engine loads anything; each new engine sees the app alive then.
     static void registerQmlSingletons();
 
@@ -93,6 +95,7 @@ private:
     ShellController m_shell;
     std::unique_ptr<AppModel> m_model;
     std::unique_ptr<SetupServices> m_setup;
+    std::unique_ptr<CommandTable> m_commands;
 };
 
 } // namespace quorvane::test

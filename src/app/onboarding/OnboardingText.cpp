@@ -1,5 +1,6 @@
 #include "onboarding/OnboardingText.h"
 
+#include "shell/CommandTable.h"
 #include "shell/KeyLabel.h"
 
 using namespace Qt::StringLiterals;
@@ -23,13 +24,12 @@ QString primaryLabel(int step, int steps)
 
 QString paletteTip()
 {
-    return KeyLabel::text(QKeySequence(Qt::ControlModifier | Qt::Key_K)) + u" opens the command palette"_s;
+    return KeyLabel::text(CommandTable::keys(CommandId::CommandPalette)) + u" opens the command palette"_s;
 }
 
 QString shareTip()
 {
-    const QKeySequence hotKey(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier | Qt::Key_S);
-    return KeyLabel::text(hotKey) + u" shares a few open times from anywhere"_s;
+    return CommandTable::shareHotKeyText() + u" shares a few open times from anywhere"_s;
 }
 
 QString signedInLabel(const std::optional<Account> &account)

@@ -75,7 +75,7 @@ QStringList SelfTest::qmlFiles(const QString &folder)
     return out;
 }
 
-int SelfTest::run(const QUrl &root, const QStringList &files, int timeoutMs)
+int SelfTest::run(const QUrl &root, const QStringList &files, const QList<QmlType> &views, int timeoutMs)
 {
     // The window first, as a user's start would go; every other file is compiled after it, so
     // the first frame's time is the start's own.
@@ -86,6 +86,7 @@ int SelfTest::run(const QUrl &root, const QStringList &files, int timeoutMs)
         waitForFirstFrame(timeoutMs);
     const std::optional<qint64> resident = ProcessStats::residentKiB();
     compile(files);
+    compileViews(views);
 
     for (const QString &problem : std::as_const(m_problems))
         std::fprintf(stderr, "self-test: %s\n", qPrintable(problem));
@@ -105,6 +106,18 @@ void SelfTest::compile(const QStringList &files)
             m_problems.append(error.toString());
         if (component.status() == QQmlComponent::Null)
             m_problems.append(u"%1 is empty"_s.arg(file));
+    }
+}
+
+// Every view the table names must exist in the module it names: a typo or a module left out
+// of the build fails here rather than showing a placeholder.
+void SelfTest::compileViews(const QList<QmlType> &views)
+{
+    for (const QmlType &type : views) {
+        QQmlComponent component(&m_engine);
+        component.setData(type.document(), QUrl(u"qrc:/quorvane/self-test/%1.qml"_s.arg(type.name)));
+        for (const QQmlError &error : component.errors())
+            m_problems.append(u"%1 %2: %3"_s.arg(type.module, type.name, error.toString()));
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/QmlType.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
@@ -26,14 +28,16 @@ public:
     // Every QML file below `folder` (of the resources, by default) but singletons, sorted, as URLs.
     [[nodiscard]] static QStringList qmlFiles(const QString &folder = QStringLiteral(":/qt/qml/Quorvane"));
 
-    // Loads `root`, waits for the window named "main" to draw, compiles `files`; prints one line
-    // to stdout on success, each problem to stderr. Gives the process's exit code.
-    int run(const QUrl &root, const QStringList &files, int timeoutMs = 30'000);
+    // Loads `root`, waits for the window named "main" to draw, compiles `files` and makes each of
+    // `views`; prints one line to stdout on success, each problem to stderr. Gives the process's
+    // exit code.
+    int run(const QUrl &root, const QStringList &files, const QList<QmlType> &views, int timeoutMs = 30'000);
 
     [[nodiscard]] const QStringList &problems() const { return m_problems; }
     [[nodiscard]] qint64 firstFrameMs() const { return m_firstFrameMs; }
 
 private:
+    void compileViews(const QList<QmlType> &views);
     void compile(const QStringList &files);
     void waitForFirstFrame(int timeoutMs);
     static void onMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);

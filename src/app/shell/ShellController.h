@@ -1,14 +1,21 @@
 #pragma once
 
+#include "shell/AppWindow.h"
+#include "shell/QmlType.h"
+
+#include <QHash>
 #include <QObject>
+#include <QPointer>
+#include <QQmlComponent>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
 namespace quorvane {
 
 // The application's windows as the screens reach them: any screen, the tray popover or a
-// second launch asks for a window by its id ("main", "share", "onboarding", "about",
-// "settings"), and the shell's QML, which owns the windows, opens or raises it.
+// second launch asks for a window by its id, and the shell's QML, which owns the windows,
+// opens or raises it. It also makes the QML of each view the view table names, so screens
+// and windows reach each other through declared imports rather than file paths.
 class ShellController : public QObject
 {
     Q_OBJECT
@@ -18,14 +25,29 @@ class ShellController : public QObject
 public:
     using QObject::QObject;
 
-    // Brings the app to the front and opens (or raises) the window with that id.
-    Q_INVOKABLE void open(const QString &windowId) { Q_EMIT openRequested(windowId); }
+    // Brings the app to the front and opens (or raises) that window.
+    Q_INVOKABLE void open(quorvane::AppWindow::Id window) { Q_EMIT openRequested(window); }
     // Ends the process: the tray's "Quit Quorvane".
     Q_INVOKABLE void quit() { Q_EMIT quitRequested(); }
 
+    // The component of a section's screen, of a window, or of what fills a window, made in
+    // the engine of `user` on first use; null where the view table has no row.
+    Q_INVOKABLE QQmlComponent *sectionView(const QString &section, QObject *user);
+    Q_INVOKABLE QQmlComponent *window(quorvane::AppWindow::Id window, QObject *user);
+    Q_INVOKABLE QQmlComponent *windowContent(quorvane::AppWindow::Id window, QObject *user);
+
+    // The component of `type` in `engine`, made once per engine and kept with it. A type that
+    // doesn't compile gives a component in its error state, with the reason in errors().
+    [[nodiscard]] QQmlComponent *component(QQmlEngine &engine, const QmlType &type);
+
 Q_SIGNALS:
-    void openRequested(const QString &windowId);
+    void openRequested(quorvane::AppWindow::Id window);
     void quitRequested();
+
+private:
+    [[nodiscard]] QQmlComponent *component(QObject *user, const QmlType &type);
+
+    QHash<QString, QPointer<QQmlComponent>> m_components;
 };
 
 } // namespace quorvane

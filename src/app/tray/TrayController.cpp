@@ -1,5 +1,6 @@
 #include "tray/TrayController.h"
 
+#include "shell/ViewTable.h"
 #include "tray/PopoverPlacement.h"
 #include "tray/TrayIcon.h"
 
@@ -29,7 +30,9 @@ TrayController::~TrayController()
 
 QQuickWindow *TrayController::createPopover(QQmlEngine &engine)
 {
-    QQmlComponent component(&engine, QUrl(u"qrc:/qt/qml/Quorvane/Tray/MenuBarPopover.qml"_s));
+    const QmlType type = ViewTable::popover();
+    QQmlComponent component(&engine);
+    component.setData(type.document(), QUrl(u"qrc:/quorvane/views/popover.qml"_s));
     QObject *made = component.create();
     auto *window = qobject_cast<QQuickWindow *>(made);
     if (!window) {

@@ -4,24 +4,27 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Quorvane.App
 
-// The main window's menus: File, Go and Help. Every item with a key works while the
-// window is active, whether or not its menu is open.
+// The main window's menus, File, Go and Help, read from the command table. Each command's
+// action lives here from the start, so its key works whether or not a menu was ever opened;
+// a menu makes its items the first time it opens.
 MenuBar {
     id: root
 
-    // The toolbar's palette action, so that Ctrl+K has one owner; without it the item
-    // opens the palette by itself and has no key.
-    property Action paletteAction
-
-    AppMenuModel {
-        id: menuModel
+    // A command as a menu action, with the command's title, key and enabled state.
+    component CommandAction: Action {
+        required property Command command
+        objectName: command.name
+        text: command.title
+        shortcut: command.shortcut
+        enabled: command.enabled
+        onTriggered: command.trigger()
     }
 
-    // A menu item with its key written at the right.
+    // A menu item with its key written at the right, as the desktop writes keys.
     component KeyedItem: MenuItem {
         id: item
 
-        property string keys: action && action.shortcut ? String(action.shortcut) : ""
+        readonly property string keys: action && action.command ? action.command.shortcutText : ""
 
         contentItem: RowLayout {
             spacing: 24
@@ -35,7 +38,7 @@ MenuBar {
             }
             Label {
                 objectName: "keys"
-                text: menuModel.shortcutText(item.keys)
+                text: item.keys
                 textFormat: Text.PlainText
                 color: item.highlighted ? item.palette.highlightedText : item.palette.text
                 opacity: 0.7
@@ -43,118 +46,62 @@ MenuBar {
         }
     }
 
-    Menu {
+    // A menu of command actions and separators, made on first opening.
+    component CommandMenu: Menu {
+        id: menu
+
+        property list<QtObject> entries
+        property bool made: false
+
+        delegate: Component { KeyedItem {} }
+        onAboutToShow: {
+            if (made)
+                return
+            made = true
+            for (let i = 0; i < entries.length; ++i) {
+                const entry = entries[i]
+                if (entry === separator)
+                    addItem(separatorItem.createObject(null) as MenuSeparator)
+                else if (entry.command.available)
+                    addAction(entry as Action)
+            }
+        }
+    }
+    QtObject { id: separator }
+    Component { id: separatorItem; MenuSeparator {} }
+
+    CommandAction { id: shareTimes; command: Commands.get(CommandId.ShareTimes) }
+    CommandAction { id: newPoll; command: Commands.get(CommandId.NewPoll) }
+    CommandAction { id: settings; command: Commands.get(CommandId.Settings) }
+    CommandAction { id: quit; command: Commands.get(CommandId.Quit) }
+    CommandAction { id: goToday; command: Commands.get(CommandId.GoToday) }
+    CommandAction { id: goBookings; command: Commands.get(CommandId.GoBookings) }
+    CommandAction { id: goTypes; command: Commands.get(CommandId.GoTypes) }
+    CommandAction { id: goAvailability; command: Commands.get(CommandId.GoAvailability) }
+    CommandAction { id: goPolls; command: Commands.get(CommandId.GoPolls) }
+    CommandAction { id: goInsights; command: Commands.get(CommandId.GoInsights) }
+    CommandAction { id: commandPalette; command: Commands.get(CommandId.CommandPalette) }
+    CommandAction { id: joinNext; command: Commands.get(CommandId.JoinNext) }
+    CommandAction { id: welcomeGuide; command: Commands.get(CommandId.WelcomeGuide) }
+    CommandAction { id: about; command: Commands.get(CommandId.About) }
+    CommandAction { id: checkForUpdates; command: Commands.get(CommandId.CheckForUpdates) }
+    CommandAction { id: madeBy; command: Commands.get(CommandId.MadeBy) }
+    CommandAction { id: makerSite; command: Commands.get(CommandId.MakerSite) }
+
+    CommandMenu {
         objectName: "fileMenu"
         title: qsTr("&File")
-        delegate: KeyedItem {}
-
-        Action {
-            objectName: "shareTimes"
-            text: qsTr("Share Times…")
-            shortcut: "Ctrl+Shift+S"
-            onTriggered: Shell.open("share")
-        }
-        Action {
-            objectName: "newPoll"
-            text: qsTr("New Poll")
-            shortcut: "Ctrl+Shift+N"
-            // The sheet belongs to the Polls screen, which must be showing first.
-            onTriggered: {
-                App.section = "polls"
-                App.showNewPoll = true
-            }
-        }
-        MenuSeparator {}
-        Action {
-            objectName: "settings"
-            text: qsTr("Settings…")
-            shortcut: "Ctrl+,"
-            onTriggered: Shell.open("settings")
-        }
-        MenuSeparator {}
-        Action {
-            objectName: "quit"
-            text: qsTr("Quit")
-            shortcut: "Ctrl+Q"
-            onTriggered: Shell.quit()
-        }
+        entries: [shareTimes, newPoll, separator, settings, separator, quit]
     }
-
-    Menu {
-        id: goMenu
+    CommandMenu {
         objectName: "goMenu"
         title: qsTr("&Go")
-        delegate: KeyedItem {}
-
-        Instantiator {
-            model: SectionListModel {
-                app: App
-            }
-            // Roles: sectionId, title, and shortcut, the digit (which an Action's own
-            // shortcut property would hide, hence the model object).
-            delegate: Action {
-                required property var model
-                objectName: "go." + model.sectionId
-                text: model.title
-                shortcut: menuModel.sectionShortcut(model.shortcut)
-                onTriggered: App.section = model.sectionId
-            }
-            onObjectAdded: (index, object) => goMenu.insertAction(index, object as Action)
-            onObjectRemoved: (index, object) => goMenu.removeAction(object as Action)
-        }
-        MenuSeparator {}
-        KeyedItem {
-            objectName: "commandPalette"
-            text: qsTr("Command Palette…")
-            action: root.paletteAction
-            keys: root.paletteAction ? String(root.paletteAction.shortcut) : ""
-            onTriggered: {
-                if (!root.paletteAction)
-                    App.showPalette = true
-            }
-        }
-        Action {
-            objectName: "joinNext"
-            text: qsTr("Join Next Meeting")
-            shortcut: "Ctrl+Shift+J"
-            enabled: App.canJoinNext
-            onTriggered: App.joinNext()
-        }
+        entries: [goToday, goBookings, goTypes, goAvailability, goPolls, goInsights, separator,
+            commandPalette, joinNext]
     }
-
-    Menu {
+    CommandMenu {
         objectName: "helpMenu"
         title: qsTr("&Help")
-        delegate: KeyedItem {}
-
-        Action {
-            objectName: "welcomeGuide"
-            text: qsTr("Welcome Guide")
-            onTriggered: Shell.open("onboarding")
-        }
-        Action {
-            objectName: "about"
-            text: qsTr("About Quorvane")
-            onTriggered: Shell.open("about")
-        }
-        Action {
-            objectName: "checkForUpdates"
-            text: qsTr("Check for Updates…")
-            enabled: false
-        }
-        MenuSeparator {}
-        Action {
-            objectName: "madeBy"
-            text: menuModel.madeBy
-            onTriggered: Shell.open("about")
-        }
-        KeyedItem {
-            objectName: "makerSite"
-            text: menuModel.makerSiteTitle
-            visible: menuModel.makerSite.toString().length > 0
-            enabled: visible
-            height: visible ? implicitHeight : 0
-            onTriggered: Qt.openUrlExternally(menuModel.makerSite)
-        }
+        entries: [welcomeGuide, about, checkForUpdates, separator, madeBy, makerSite]
     }
 }

@@ -5,29 +5,19 @@ import Quorvane.App
 import Quorvane.Components
 
 // The window's toolbar: the sidebar toggle, the subtitle, and Quick Share, the command
-// palette and Refresh at the right.
+// palette and Refresh at the right. Their keys belong to the menus; these buttons run the
+// same commands.
 ToolBar {
     id: root
 
     property string subtitle
     property bool sidebarVisible: true
-    readonly property Action paletteAction: paletteAction
-    readonly property Action refreshAction: refreshAction
+
+    readonly property Command shareCommand: Commands.get(CommandId.ShareTimes)
+    readonly property Command paletteCommand: Commands.get(CommandId.CommandPalette)
+    readonly property Command refreshCommand: Commands.get(CommandId.Refresh)
 
     signal toggleSidebar()
-
-    Action {
-        id: paletteAction
-        text: qsTr("Command Palette")
-        shortcut: "Ctrl+K"
-        onTriggered: App.showPalette = true
-    }
-    Action {
-        id: refreshAction
-        text: qsTr("Refresh")
-        shortcut: "Ctrl+R"
-        onTriggered: App.refreshNow()
-    }
 
     RowLayout {
         anchors.fill: parent
@@ -57,32 +47,34 @@ ToolBar {
         }
         SymbolButton {
             objectName: "quickShareButton"
-            symbol: "paperplane"
+            symbol: root.shareCommand.symbol
             text: qsTr("Quick Share")
             display: AbstractButton.IconOnly
-            onClicked: Shell.open("share")
+            onClicked: root.shareCommand.trigger()
             ToolTip.visible: hovered
             ToolTip.delay: 600
-            ToolTip.text: qsTr("Share a few open times (Ctrl+Alt+Super+S anywhere)")
+            ToolTip.text: qsTr("Share a few open times (%1 anywhere)").arg(Commands.shareHotKeyText)
         }
         SymbolButton {
             objectName: "paletteButton"
-            symbol: "command"
-            action: paletteAction
+            symbol: root.paletteCommand.symbol
+            text: qsTr("Command Palette")
             display: AbstractButton.IconOnly
+            onClicked: root.paletteCommand.trigger()
             ToolTip.visible: hovered
             ToolTip.delay: 600
-            ToolTip.text: qsTr("Command palette (%1)").arg(paletteAction.shortcut)
+            ToolTip.text: qsTr("Command palette (%1)").arg(root.paletteCommand.shortcutText)
         }
         SymbolButton {
             id: refreshButton
             objectName: "refreshButton"
-            symbol: "arrow.clockwise"
-            action: refreshAction
+            symbol: root.refreshCommand.symbol
+            text: root.refreshCommand.title
             display: AbstractButton.IconOnly
+            onClicked: root.refreshCommand.trigger()
             ToolTip.visible: hovered
             ToolTip.delay: 600
-            ToolTip.text: qsTr("Refresh (%1)").arg(refreshAction.shortcut)
+            ToolTip.text: qsTr("Refresh (%1)").arg(root.refreshCommand.shortcutText)
 
             BusyIndicator {
                 objectName: "refreshBusy"

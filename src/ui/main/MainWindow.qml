@@ -10,9 +10,6 @@ ApplicationWindow {
     id: window
 
     property bool sidebarVisible: true
-    // The toolbar's actions, for the menus to share: one Action, one shortcut.
-    readonly property alias paletteAction: toolBar.paletteAction
-    readonly property alias refreshAction: toolBar.refreshAction
 
     title: frameModel.title
     width: 1180
@@ -112,5 +109,5 @@ ApplicationWindow {
         active: App.showNewPoll
     }
 
-    menuBar: AppMenuBar { paletteAction: window.paletteAction }
+    menuBar: AppMenuBar {}
 }

@@ -1,28 +1,21 @@
 import QtQuick
 import Quorvane.App
 
-// The current section's screen. The one table from section to screen: each screen's module
-// adds its row to screenUrl(); a section without a screen shows its placeholder.
+// The current section's screen, as the view table names it; a section without a screen
+// shows its placeholder. Only the shown screen exists.
 Item {
     id: root
 
     required property MainWindowModel frame
     readonly property string section: App.section
-    readonly property url screen: screenUrl(section)
-
-    function screenUrl(section: string): url {
-        switch (section) {
-        case "today": return "qrc:/qt/qml/Quorvane/Today/TodayView.qml"
-        default: return ""
-        }
-    }
+    readonly property Component screen: Shell.sectionView(section, root)
 
     Loader {
         id: screenLoader
         objectName: "screenLoader"
         anchors.fill: parent
-        source: root.screen
-        active: root.screen.toString().length > 0
+        sourceComponent: root.screen
+        active: root.screen !== null
     }
 
     SectionPlaceholder {

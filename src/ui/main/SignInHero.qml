@@ -3,6 +3,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Quorvane.App
 import Quorvane.Components
+import Quorvane.Onboarding
 
 // In place of every screen while nobody is signed in and nothing is cached.
 Item {
@@ -33,16 +34,13 @@ Item {
             color: SystemColors.secondary
             text: qsTr("Connect this computer to your Quorvane account to see bookings, edit availability and share times.")
         }
-        // The onboarding module's sign-in panel, made only while the hero shows, so that no
-        // sign-in flow lives on behind the screens.
-        Loader {
+        SignInSlot {
             id: signInPanelSlot
             objectName: "signInPanelSlot"
             Layout.alignment: Qt.AlignHCenter
             Layout.maximumWidth: 380
             Layout.preferredWidth: 380
             active: root.visible
-            source: "qrc:/qt/qml/Quorvane/Onboarding/SignInPanel.qml"
         }
     }
 }

@@ -5,7 +5,7 @@ import QtQuick.Controls
 ApplicationWindow {
     id: window
 
-    required property url source
+    required property int windowId
     property alias placeholderTitle: hook.title
     property alias placeholderSymbol: hook.symbol
     property alias placeholderDescription: hook.description
@@ -21,7 +21,7 @@ ApplicationWindow {
     ViewHook {
         id: hook
         anchors.fill: parent
-        source: window.source
+        windowId: window.windowId
     }
 
     Shortcut {

@@ -2,8 +2,8 @@ import QtQuick
 import Quorvane.App
 import Quorvane.Main
 
-// The application's windows, by id: "main" opens at launch; "share", "onboarding", "about"
-// and "settings" are made the first time they are asked for and kept afterwards. Closing a
+// The application's windows, by id: the main window opens at launch; the others are made,
+// from the view table, the first time they are asked for and kept afterwards. Closing a
 // window only hides it; the app goes on in the tray.
 QtObject {
     id: root
@@ -19,48 +19,32 @@ QtObject {
         }
     }
 
-    property ShareWindow shareWindow
-    property OnboardingWindow onboardingWindow
-    property AboutWindow aboutWindow
-    property SettingsWindow settingsWindow
-
-    readonly property Component shareComponent: Component { ShareWindow {} }
-    readonly property Component onboardingComponent: Component { OnboardingWindow {} }
-    readonly property Component aboutComponent: Component { AboutWindow {} }
-    readonly property Component settingsComponent: Component { SettingsWindow {} }
+    // The other windows made so far, by id.
+    property var made: ({})
 
     function bootstrap() {
         App.start()
         if (!App.onboarded)
-            open("onboarding")
+            open(AppWindow.Onboarding)
     }
 
-    // The window with that id, made on first use; null for an id that names no window.
-    function windowFor(windowId: string): Window {
-        switch (windowId) {
-        case "main":
+    // The window with that id, made on first use.
+    function windowFor(windowId: int): Window {
+        if (windowId === AppWindow.Main)
             return mainWindow
-        case "share":
-            if (!shareWindow)
-                shareWindow = shareComponent.createObject(root) as ShareWindow
-            return shareWindow
-        case "onboarding":
-            if (!onboardingWindow)
-                onboardingWindow = onboardingComponent.createObject(root) as OnboardingWindow
-            return onboardingWindow
-        case "about":
-            if (!aboutWindow)
-                aboutWindow = aboutComponent.createObject(root) as AboutWindow
-            return aboutWindow
-        case "settings":
-            if (!settingsWindow)
-                settingsWindow = settingsComponent.createObject(root) as SettingsWindow
-            return settingsWindow
+        if (!made[windowId]) {
+            const component = Shell.window(windowId, root)
+            const window = component ? component.createObject(root) as Window : null
+            if (!window) {
+                console.error("window " + windowId + ": " + (component ? component.errorString() : "none"))
+                return null
+            }
+            made[windowId] = window
         }
-        return null
+        return made[windowId]
     }
 
-    function open(windowId: string) {
+    function open(windowId: int) {
         const window = windowFor(windowId)
         if (!window)
             return
@@ -74,7 +58,7 @@ QtObject {
 
     property Connections shellRequests: Connections {
         target: Shell
-        function onOpenRequested(windowId: string) {
+        function onOpenRequested(windowId: int) {
             root.open(windowId)
         }
     }

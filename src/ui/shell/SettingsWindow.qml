@@ -1,8 +1,9 @@
 import QtQuick
 import QtQuick.Controls
+import Quorvane.App
 
 // The app's settings: account, notifications, the tray, the server. The view comes from the
-// module Quorvane.Settings once it exists and sets the window's size.
+// view table once it names one, and sets the window's size.
 ApplicationWindow {
     id: window
 
@@ -16,7 +17,7 @@ ApplicationWindow {
     ViewHook {
         id: hook
         anchors.fill: parent
-        source: "qrc:/qt/qml/Quorvane/Settings/SettingsView.qml"
+        windowId: AppWindow.Settings
         title: qsTr("Settings")
         symbol: "gearshape"
         description: qsTr("Settings aren't available in this version yet.")

@@ -1,8 +1,9 @@
 import QtQuick
 import QtQuick.Controls
+import Quorvane.App
 
 // "Share Times": picks a few open times and copies them as a message. The view comes from
-// the module Quorvane.Share once it exists; the window can shrink to the view's own size.
+// the view table once it names one; the window can shrink to the view's own size.
 ApplicationWindow {
     id: window
 
@@ -16,7 +17,7 @@ ApplicationWindow {
     ViewHook {
         id: hook
         anchors.fill: parent
-        source: "qrc:/qt/qml/Quorvane/Share/QuickShareView.qml"
+        windowId: AppWindow.Share
         title: qsTr("Share Times")
         symbol: "paperplane"
         description: qsTr("Picking and sharing open times isn't available in this version yet.")

@@ -1,20 +1,20 @@
 import QtQuick
+import Quorvane.App
 import Quorvane.Components
 
-// Where a window shows a view that another module provides: the view once that module is
-// part of the app, else a panel saying what will be here. The window takes its size from it.
+// Where a window shows the view that the view table names for it, or, for a window whose
+// view isn't written yet, a panel saying what will be here. The window takes its size from it.
 Item {
     id: hook
 
-    // For example "qrc:/qt/qml/Quorvane/Onboarding/OnboardingView.qml".
-    required property url source
+    // The window this fills, such as AppWindow.Onboarding.
+    required property int windowId
     property string title
     property string symbol
     property string description
     property size placeholderSize: Qt.size(480, 360)
 
-    // Made once; a missing file only leaves the component in its error state.
-    readonly property Component view: Qt.createComponent(source, Component.PreferSynchronous)
+    readonly property Component view: Shell.windowContent(windowId, hook)
     readonly property bool provided: view !== null && view.status === Component.Ready
     readonly property Item content: loader.item
 
@@ -35,5 +35,11 @@ Item {
             symbol: hook.symbol
             description: hook.description
         }
+    }
+
+    // A view that the table names but that doesn't compile is a fault, not a placeholder.
+    Component.onCompleted: {
+        if (view !== null && view.status === Component.Error)
+            console.error(view.errorString())
     }
 }

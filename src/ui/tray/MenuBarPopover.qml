@@ -4,6 +4,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Quorvane.App
 import Quorvane.Components
+import Quorvane.Onboarding
 import Quorvane.Today
 
 // The tray's popover: the next meeting, the rest of today, one-click links, and the way to
@@ -23,9 +24,9 @@ Window {
     }
 
     // Every way to a window goes through here: the popover makes way for it.
-    function open(windowId: string) {
+    function open(window: int) {
         popover.hide()
-        Shell.open(windowId)
+        Shell.open(window)
     }
 
     MenuBarViewModel {
@@ -60,12 +61,11 @@ Window {
             date: bar.dateText
         }
 
-        Loader {
+        SignInSlot {
             objectName: "signInSlot"
             Layout.fillWidth: true
             active: bar.showsSignIn
             visible: active
-            source: "qrc:/qt/qml/Quorvane/Onboarding/SignInPanel.qml"
         }
 
         ColumnLayout {
@@ -122,7 +122,7 @@ Window {
                 text: qsTr("Share times…")
                 icon.source: "image://icon/paperplane.fill?color=" + palette.buttonText.toString().substring(1)
                 icon.color: "transparent"
-                onClicked: popover.open("share")
+                onClicked: popover.open(AppWindow.Share)
             }
 
             Label {
@@ -141,8 +141,7 @@ Window {
 
         PopoverFooter {
             Layout.fillWidth: true
-            onOpenMain: popover.open("main")
-            onOpenSettings: popover.open("settings")
+            onOpenWindow: window => popover.open(window)
         }
     }
 }

@@ -4,41 +4,46 @@ import QtQuick.Layouts
 import Quorvane.App
 import Quorvane.Components
 
-// The way to everything else, shown signed in or not.
+// The way to everything else, shown signed in or not. Windows open through the popover,
+// which makes way for them; the rest runs its command directly.
 RowLayout {
     id: root
 
-    signal openMain()
-    signal openSettings()
+    readonly property Command openMain: Commands.get(CommandId.OpenMain)
+    readonly property Command refresh: Commands.get(CommandId.Refresh)
+    readonly property Command settings: Commands.get(CommandId.Settings)
+    readonly property Command quit: Commands.get(CommandId.Quit)
+
+    signal openWindow(int window)
 
     spacing: 2
 
     Button {
         objectName: "openMain"
         flat: true
-        text: qsTr("Open Quorvane")
-        icon.source: "image://icon/macwindow?color=" + palette.buttonText.toString().substring(1)
+        text: root.openMain.title
+        icon.source: "image://icon/" + root.openMain.symbol + "?color=" + palette.buttonText.toString().substring(1)
         icon.color: "transparent"
-        onClicked: root.openMain()
+        onClicked: root.openWindow(AppWindow.Main)
     }
     Item { Layout.fillWidth: true }
     FooterButton {
         objectName: "refresh"
-        symbol: "arrow.clockwise"
-        label: qsTr("Refresh")
-        onClicked: App.refreshNow()
+        symbol: root.refresh.symbol
+        label: root.refresh.title
+        onClicked: root.refresh.trigger()
     }
     FooterButton {
         objectName: "settings"
-        symbol: "gearshape"
+        symbol: root.settings.symbol
         label: qsTr("Settings")
-        onClicked: root.openSettings()
+        onClicked: root.openWindow(AppWindow.Settings)
     }
     FooterButton {
         objectName: "quit"
-        symbol: "power"
-        label: qsTr("Quit")
+        symbol: root.quit.symbol
+        label: root.quit.title
         toolTip: qsTr("Quit Quorvane")
-        onClicked: Shell.quit()
+        onClicked: root.quit.trigger()
     }
 }

@@ -39,21 +39,26 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("root");
         QTest::addColumn<QString>("other");   // a file below the folder, only compiled
+        QTest::addColumn<QString>("view");    // a module the view table would name
         QTest::addColumn<QString>("problem"); // empty: the test passes
 
         const QString fine = u"import QtQuick\nItem { width: 10 }\n"_s, broken = u"import QtQuick\nItem { width: }\n"_s;
-        QTest::newRow("sound") << window(u"Rectangle { anchors.fill: parent }"_s) << fine << QString();
-        QTest::newRow("another file does not compile") << window({}) << broken << u"other.qml"_s;
-        QTest::newRow("binding error at run time") << window(u"Rectangle { width: gone.width }"_s) << fine << u"gone"_s;
+        const QString quick = u"QtQuick"_s;
+        QTest::newRow("sound") << window(u"Rectangle { anchors.fill: parent }"_s) << fine << quick << QString();
+        QTest::newRow("another file does not compile") << window({}) << broken << quick << u"other.qml"_s;
+        QTest::newRow("binding error at run time")
+            << window(u"Rectangle { width: gone.width }"_s) << fine << quick << u"gone"_s;
         QTest::newRow("console warning") << window(u"Component.onCompleted: console.warn(\"careful\")"_s) << fine
-                                         << u"careful"_s;
-        QTest::newRow("no main window") << window({}, u"popover"_s) << fine << u"no window named"_s;
-        QTest::newRow("main window never shown") << window({}, u"main"_s, false) << fine << u"drew nothing"_s;
+                                         << quick << u"careful"_s;
+        QTest::newRow("no main window") << window({}, u"popover"_s) << fine << quick << u"no window named"_s;
+        QTest::newRow("main window never shown") << window({}, u"main"_s, false) << fine << quick << u"drew nothing"_s;
+        QTest::newRow("a view's module is missing") << window({}) << fine << u"Quorvane.Gone"_s << u"Quorvane.Gone"_s;
     }
     void verdict()
     {
         QFETCH(QString, root);
         QFETCH(QString, other);
+        QFETCH(QString, view);
         QFETCH(QString, problem);
 
         QTemporaryDir folder;
@@ -68,7 +73,8 @@ private Q_SLOTS:
         started.start();
         QQmlApplicationEngine engine;
         SelfTest test(engine, started);
-        QCOMPARE(test.run(QUrl::fromLocalFile(folder.filePath(u"Root.qml"_s)), files, 1500), problem.isEmpty() ? 0 : 1);
+        QCOMPARE(test.run(QUrl::fromLocalFile(folder.filePath(u"Root.qml"_s)), files, {QmlType{view, u"Item"_s}}, 1500),
+                 problem.isEmpty() ? 0 : 1);
         const QString problems = test.problems().join(u'\n');
         if (problem.isEmpty())
             QVERIFY2(problems.isEmpty() && test.firstFrameMs() >= 0 && test.firstFrameMs() <= started.elapsed(),

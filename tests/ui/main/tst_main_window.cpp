@@ -5,13 +5,8 @@
 #include "ui/components/ItemLookup.h"
 
 #include <QQuickStyle>
-#include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_OnboardingPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_TodayPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_MainPlugin)
+#include "QuorvaneQmlModules.h"
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;

@@ -3,11 +3,8 @@
 #include "ui/components/ItemLookup.h"
 
 #include <QQuickStyle>
-#include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_OnboardingPlugin)
+#include "QuorvaneQmlModules.h"
 
 using namespace quorvane;
 using namespace quorvane::test;

@@ -8,11 +8,8 @@
 
 #include <QAccessible>
 #include <QQuickStyle>
-#include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_OnboardingPlugin)
+#include "QuorvaneQmlModules.h"
 
 using namespace quorvane;
 using namespace quorvane::test;

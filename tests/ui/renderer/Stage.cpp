@@ -1,6 +1,7 @@
 #include "Stage.h"
 
 #include "components/IconProvider.h"
+#include "shell/AppWindow.h"
 #include "tray/TrayController.h"
 
 #include <QElapsedTimer>
@@ -72,7 +73,7 @@ bool Stage::show()
         if (m_popover)
             m_popover->show();
     } else {
-        m_app->shell().open(m_scene.window);
+        m_app->shell().open(AppWindow::fromName(m_scene.window).value_or(AppWindow::Main));
     }
     QQuickWindow *shown = window();
     if (!shown) {

@@ -52,8 +52,9 @@ private Q_SLOTS:
         ShellRig rig;
         for (const QString &id : {u"main"_s, u"share"_s, u"onboarding"_s, u"about"_s, u"settings"_s}) {
             QCOMPARE(ShellRig::made(id), id == u"main"_s ? 1 : 0);
-            rig.shell().open(id);
-            rig.shell().open(id);
+            const AppWindow::Id which = *AppWindow::fromName(id);
+            rig.shell().open(which);
+            rig.shell().open(which);
             QQuickWindow *window = ShellRig::window(id);
             QVERIFY2(window, qPrintable(id));
             if (id == u"onboarding"_s || id == u"about"_s) {
@@ -64,7 +65,7 @@ private Q_SLOTS:
             }
             window->close();
             QVERIFY(!ShellRig::window(id));
-            rig.shell().open(id);
+            rig.shell().open(which);
             QVERIFY(ShellRig::window(id));
             QCOMPARE(ShellRig::made(id), 1);
         }
@@ -90,7 +91,7 @@ private Q_SLOTS:
         ShellRig::window(u"main"_s)->close();
         QTest::qWait(50);
         QCOMPARE(rig.refreshes(), 1); // closing starts nothing
-        rig.shell().open(u"main"_s);
+        rig.shell().open(AppWindow::Main);
         QTRY_COMPARE(rig.refreshes(), 2);
         QCOMPARE(bool(ShellRig::window(u"onboarding"_s)), !onboarded);
         NO_WARNINGS(rig);

@@ -5,11 +5,8 @@
 
 #include <QCoroTask>
 #include <QQuickStyle>
-#include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_TodayPlugin)
+#include "QuorvaneQmlModules.h"
 
 using namespace quorvane;
 using namespace quorvane::test;

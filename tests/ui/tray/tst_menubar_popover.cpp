@@ -5,13 +5,8 @@
 
 #include <QQuickStyle>
 #include <QSignalSpy>
-#include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_OnboardingPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_TodayPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_TrayPlugin)
+#include "QuorvaneQmlModules.h"
 
 using namespace quorvane;
 using namespace quorvane::test;
@@ -99,7 +94,7 @@ private Q_SLOTS:
         const auto effects = [&] {
             QStringList out;
             for (const QList<QVariant> &call : std::as_const(opened))
-                out << u"open "_s + call.first().toString();
+                out << u"open "_s + AppWindow::name(call.first().value<AppWindow::Id>());
             if (!quit.isEmpty())
                 out << u"quit"_s;
             if (view.transport().requested.contains(u"GET sync/bookings"_s))

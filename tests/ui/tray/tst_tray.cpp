@@ -10,13 +10,8 @@
 #include <QQuickStyle>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QtQml/qqmlextensionplugin.h>
 
-Q_IMPORT_QML_PLUGIN(Quorvane_AppPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_ComponentsPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_OnboardingPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_TodayPlugin)
-Q_IMPORT_QML_PLUGIN(Quorvane_TrayPlugin)
+#include "QuorvaneQmlModules.h"
 
 using namespace quorvane;
 using namespace quorvane::test;

@@ -1,0 +1,10 @@
+#include "shell/QmlType.h"
+
+namespace quorvane {
+
+QByteArray QmlType::document() const
+{
+    return "import " + module.toUtf8() + '\n' + name.toUtf8() + " {}\n";
+}
+
+} // namespace quorvane

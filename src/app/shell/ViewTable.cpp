@@ -1,0 +1,61 @@
+#include "shell/ViewTable.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane::ViewTable {
+
+QmlType section(AppSection section)
+{
+    switch (section) {
+    case AppSection::today: return {u"Quorvane.Today"_s, u"TodayView"_s};
+    case AppSection::bookings:
+    case AppSection::types:
+    case AppSection::availability:
+    case AppSection::polls:
+    case AppSection::insights: break;
+    }
+    return {};
+}
+
+QmlType window(AppWindow::Id window)
+{
+    switch (window) {
+    case AppWindow::Main: return {u"Quorvane.Main"_s, u"MainWindow"_s};
+    case AppWindow::Share: return {u"Quorvane.Shell"_s, u"ShareWindow"_s};
+    case AppWindow::Onboarding: return {u"Quorvane.Shell"_s, u"OnboardingWindow"_s};
+    case AppWindow::About: return {u"Quorvane.Shell"_s, u"AboutWindow"_s};
+    case AppWindow::Settings: return {u"Quorvane.Shell"_s, u"SettingsWindow"_s};
+    }
+    return {};
+}
+
+QmlType content(AppWindow::Id window)
+{
+    switch (window) {
+    case AppWindow::Onboarding: return {u"Quorvane.Onboarding"_s, u"OnboardingView"_s};
+    case AppWindow::About: return {u"Quorvane.About"_s, u"AboutView"_s};
+    case AppWindow::Main:
+    case AppWindow::Share:
+    case AppWindow::Settings: break;
+    }
+    return {};
+}
+
+QmlType popover()
+{
+    return {u"Quorvane.Tray"_s, u"MenuBarPopover"_s};
+}
+
+QList<QmlType> all()
+{
+    QList<QmlType> out;
+    for (const AppSection s : Section::allCases())
+        out << section(s);
+    for (const AppWindow::Id w : AppWindow::all())
+        out << window(w) << content(w);
+    out << popover();
+    out.removeIf([](const QmlType &type) { return type.isNull(); });
+    return out;
+}
+
+} // namespace quorvane::ViewTable
