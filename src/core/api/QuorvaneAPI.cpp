@@ -1,6 +1,7 @@
 #include "QuorvaneAPI.h"
 
 #include "APIError.h"
+#include "BadServerResponse.h"
 #include "BuildInfo.h"
 #include "Cancelled.h"
 #include "ISO.h"
@@ -76,8 +77,10 @@ QUrl urlFor(const QUrl &base, const QString &path, const QuorvaneAPI::Query &que
     return url;
 }
 
+// Every request the client sends is built here, so that all carry the same name, time-out and
+// redirect rule. Without a bearer (the sign-in steps) there is no Authorization header at all.
 HTTPRequest prepare(const QUrl &url, const QByteArray &method, const std::optional<QByteArray> &body,
-                    const QString &token)
+                    const std::optional<QString> &bearer)
 {
     QNetworkRequest request(url);
     // No local cache: the transport's manager has none, so nothing is read from or written to
@@ -86,7 +89,8 @@ HTTPRequest prepare(const QUrl &url, const QByteArray &method, const std::option
     request.setTransferTimeout(20'000);
     // Qt would carry the Authorization header along to wherever a redirect points.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    request.setRawHeader("Authorization", "Bearer " + token.toUtf8());
+    if (bearer)
+        request.setRawHeader("Authorization", "Bearer " + bearer->toUtf8());
     request.setHeader(QNetworkRequest::UserAgentHeader, u"Quorvane-Linux/%1"_s.arg(QLatin1StringView(build::version)));
     if (body)
         request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
@@ -123,7 +127,7 @@ QCoro::Task<QByteArray> perform(QuorvaneAPI api, QString path, QByteArray method
     const std::optional<QString> token = api.token ? api.token() : std::nullopt;
     if (!token || token->isEmpty())
         throw APIError::notSignedIn();
-    const HTTPRequest prepared = prepare(urlFor(api.base, path, query), method, body, *token);
+    const HTTPRequest prepared = prepare(urlFor(api.base, path, query), method, body, token);
 
     APIError lastError = APIError::offline();
     const int tries = std::max(attempts, 1);
@@ -218,6 +222,43 @@ QCoro::Task<std::optional<QUrl>> googleLink(QuorvaneAPI api)
     co_return url.isValid() ? std::optional(url) : std::nullopt;
 }
 
+// One POST of a sign-in step: no token yet, so none is asked for. One try, every HTTP answer
+// given back as it is, a failed exchange passed on as the transport reported it.
+QCoro::Task<HTTPResponse> unsignedPost(QuorvaneAPI api, QString path, QJsonObject body)
+{
+    Q_ASSERT(api.transport);
+    const HTTPRequest prepared = prepare(urlFor(api.base, path, {}), QByteArrayLiteral("POST"),
+                                         QJsonDocument(body).toJson(QJsonDocument::Compact), std::nullopt);
+    co_return co_await api.transport->send(prepared, api.cancellation);
+}
+
+DeviceCodes codesIn(const QJsonObject &answer)
+{
+    const QJsonValue device = answer.value("device_code"_L1);
+    const QJsonValue user = answer.value("user_code"_L1);
+    const QJsonValue page = answer.value("verification_uri_complete"_L1);
+    if (!device.isString() || !user.isString() || !page.isString())
+        throw BadServerResponse();
+    const QUrl url(page.toString(), QUrl::StrictMode);
+    if (url.isEmpty() || !url.isValid())
+        throw BadServerResponse();
+    return DeviceCodes{device.toString(), user.toString(), url};
+}
+
+QCoro::Task<DeviceCodes> askForCodes(QuorvaneAPI api, QString label)
+{
+    const QJsonObject body{{u"label"_s, label}};
+    const HTTPResponse answer = co_await unsignedPost(api, u"auth/device/start"_s, body);
+    // Only 200 counts: this step has no "created" or "no content" to give.
+    if (answer.status != 200)
+        throw APIError::server(answer.status, u"Couldn't start sign-in."_s);
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(answer.body, &error);
+    if (error.error != QJsonParseError::NoError)
+        throw BadServerResponse();
+    co_return codesIn(document.object()); // JSON other than an object reads as an empty one
+}
+
 } // namespace
 
 QCoro::Task<QByteArray> QuorvaneAPI::request(QString path, QByteArray method, Query query,
@@ -306,6 +347,16 @@ QCoro::Task<std::optional<QUrl>> QuorvaneAPI::connectLink() const
 QCoro::Task<void> QuorvaneAPI::disconnectGoogle() const
 {
     return command(*this, u"sync/disconnect"_s, {});
+}
+
+QCoro::Task<DeviceCodes> QuorvaneAPI::deviceStart(QString label) const
+{
+    return askForCodes(*this, std::move(label));
+}
+
+QCoro::Task<HTTPResponse> QuorvaneAPI::devicePoll(QString deviceCode) const
+{
+    return unsignedPost(*this, u"auth/device/poll"_s, {{u"device_code"_s, deviceCode}});
 }
 
 } // namespace quorvane

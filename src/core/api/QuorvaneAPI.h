@@ -2,6 +2,7 @@
 
 #include "BookingChanges.h"
 #include "Cancellation.h"
+#include "DeviceCodes.h"
 #include "HTTPTransport.h"
 #include "Records.h"
 
@@ -24,9 +25,14 @@ namespace quorvane {
 //   APIError    the typed failure (not signed in, unauthorized, offline, rate limited,
 //               server status, undecodable answer);
 //   Cancelled   `cancellation` was cancelled; not a failure to show to the user;
-//   JSONFailure only from saveSettings(), whose answer is not wrapped in an APIError.
+//   JSONFailure only from saveSettings(), whose answer is not wrapped in an APIError;
+//   TransportError, BadServerResponse  only from the sign-in steps, as noted there.
 // A GET is tried twice with a pause of 0.6 s between; a write is tried once, since a
 // repeated write could take effect twice.
+//
+// The two steps of a device sign-in go out before there is a token: they carry no
+// Authorization, never ask `token`, are tried once, and leave the reading of statuses to
+// the flow, as noted at each. Otherwise they are requests like any other.
 struct QuorvaneAPI {
     using TokenProvider = std::function<std::optional<QString>()>;
     using Query = QMap<QString, QString>; // goes out sorted by key
@@ -64,6 +70,15 @@ struct QuorvaneAPI {
     // Where to send the browser to connect Google Calendar, if the answer names it.
     [[nodiscard]] QCoro::Task<std::optional<QUrl>> connectLink() const;
     [[nodiscard]] QCoro::Task<void> disconnectGoogle() const;
+
+    // Asks for a pair of codes for the device named `label`. Anything but 200 throws
+    // APIError::server with the status; an answer without the three codes throws
+    // BadServerResponse; a failed exchange throws as the transport reported it.
+    [[nodiscard]] QCoro::Task<DeviceCodes> deviceStart(QString label) const;
+    // Asks whether the person approved yet. Every HTTP answer comes back as it is, since 428
+    // ("not yet") and the failures are all told apart by the flow; only a failed exchange
+    // throws, as the transport reported it.
+    [[nodiscard]] QCoro::Task<HTTPResponse> devicePoll(QString deviceCode) const;
 };
 
 } // namespace quorvane

@@ -1,5 +1,5 @@
 // The client over real HTTP: statuses, retries and pauses, network failures, the exact
-// request on the wire, redirects, cancellation, and the fifteen operations.
+// request on the wire, redirects, cancellation, and every operation.
 #include "ISO.h"
 #include "JSON.h"
 #include "NetworkTransport.h"
@@ -72,6 +72,14 @@ QString show(const QList<T> &items)
     for (const T &item : items)
         ids.append(item.id);
     return ids.join(u',');
+}
+QString show(const DeviceCodes &c)
+{
+    return u"%1 %2 %3"_s.arg(c.deviceCode, c.userCode, c.page.toString());
+}
+QString show(const HTTPResponse &r)
+{
+    return u"%1 %2"_s.arg(r.status).arg(QString::fromUtf8(r.body));
 }
 QString show(const BookingChanges &c)
 {
@@ -292,9 +300,11 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("sent"); // JSON body; empty for none
         QTest::addColumn<QByteArray>("reply");
         QTest::addColumn<QString>("expected");
+        QTest::addColumn<bool>("bearer"); // false: sent before there is a token
         const auto row = [](const char *name, Call c, const char *request, QByteArray sent, QByteArray reply,
-                            const char *expected) {
-            QTest::newRow(name) << c << QString::fromUtf8(request) << sent << reply << QString::fromUtf8(expected);
+                            const char *expected, bool bearer = true) {
+            QTest::newRow(name) << c << QString::fromUtf8(request) << sent << reply << QString::fromUtf8(expected)
+                                << bearer;
         };
         const QByteArray bookings = R"({"bookings":[)" + booking + "]}";
         const QByteArray settings = JSON::encode(sampleSettings());
@@ -328,6 +338,13 @@ private Q_SLOTS:
         row("connectLink", OPERATION(connectLink()), "POST /sync/connect-link", "{}",
             "{\"url\":\"https://accounts.example/auth?s=1\"}", "https://accounts.example/auth?s=1");
         row("disconnectGoogle", OPERATION(disconnectGoogle()), "POST /sync/disconnect", "{}", "{}", "done");
+        // The sign-in steps: no token, otherwise the same request as any other.
+        row("deviceStart", OPERATION(deviceStart(u"Ada's laptop"_s)), "POST /auth/device/start",
+            R"({"label":"Ada's laptop"})",
+            R"({"device_code":"d1","user_code":"QK-42","verification_uri_complete":"https://q.example/device?c=QK-42"})",
+            "d1 QK-42 https://q.example/device?c=QK-42", false);
+        row("devicePoll", OPERATION(devicePoll(u"d1"_s)), "POST /auth/device/poll", R"({"device_code":"d1"})",
+            R"({"access_token":"t"})", R"(200 {"access_token":"t"})", false);
         // Answers that decode badly: GETs wrap the failure, cut to 160 characters; the settings
         // save passes it on.
         const QByteArray notJSON = JSON::decode<Account>("<html>").error().description().toUtf8();
@@ -349,9 +366,11 @@ private Q_SLOTS:
         QFETCH(QByteArray, sent);
         QFETCH(QByteArray, reply);
         QFETCH(QString, expected);
+        QFETCH(bool, bearer);
         Harness h;
         h.server.enqueue({answer(200, reply)});
         QCOMPARE(test::run(call(h.api())), expected);
+        QCOMPARE(h.tokenReads, bearer ? 1 : 0);
         QCOMPARE(h.server.requests().size(), 1);
         const ScriptedServer::Request &r = h.server.requests().first();
         QCOMPARE(QString::fromLatin1(r.method + ' ') + r.url.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority),
@@ -359,13 +378,14 @@ private Q_SLOTS:
         QCOMPARE(QJsonDocument::fromJson(r.body), QJsonDocument::fromJson(sent)); // key order is free
         QCOMPARE(r.body.isEmpty(), sent.isEmpty());
         // The complete set of header names, so that anything added (an Accept, cache headers) shows.
-        QList<QByteArray> names{"accept-encoding", "accept-language", "authorization", "connection", "host",
-                                "user-agent"};
+        QList<QByteArray> names{"accept-encoding", "accept-language", "connection", "host", "user-agent"};
+        if (bearer)
+            names += "authorization";
         if (!sent.isEmpty())
             names += {"content-length", "content-type"};
         std::sort(names.begin(), names.end());
         QCOMPARE(r.headerNames(), names);
-        QVERIFY(r.header("authorization") == "Bearer " + canary.toUtf8());
+        QVERIFY(r.header("authorization") == (bearer ? "Bearer " + canary.toUtf8() : QByteArray()));
         QCOMPARE(r.header("user-agent"), "Quorvane-Linux/2.0"_ba);
         QCOMPARE(r.header("content-type"), sent.isEmpty() ? ""_ba : "application/json"_ba);
     }
