@@ -1,6 +1,7 @@
 #include "onboarding/DeviceSignIn.h"
 
 #include "APIError.h"
+#include "BadServerResponse.h"
 #include "Clock.h"
 #include "Keychain.h"
 #include "TransportError.h"
@@ -8,6 +9,7 @@
 #include "linux/MachineInfo.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QPointer>
 
 #include <exception>
@@ -17,32 +19,6 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 namespace {
-
-// The server answered, but not with what a sign-in step must give.
-class BadServerResponse : public std::exception
-{
-public:
-    const char *what() const noexcept override { return "bad server response"; }
-};
-
-QUrl endpoint(const QUrl &base, const QString &path)
-{
-    QUrl url = base;
-    QString joined = base.path();
-    if (!joined.endsWith(u'/'))
-        joined += u'/';
-    url.setPath(joined + path);
-    return url;
-}
-
-// No Authorization header: there is no token yet, and these steps are open.
-HTTPRequest requestFor(const QUrl &url, const QJsonObject &body)
-{
-    QNetworkRequest request(url);
-    request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
-    request.setTransferTimeout(60'000);
-    return HTTPRequest{request, QByteArrayLiteral("POST"), QJsonDocument(body).toJson(QJsonDocument::Compact)};
-}
 
 QString describe(const std::exception_ptr &error)
 {
@@ -91,7 +67,8 @@ void DeviceSignIn::start(const QUrl &base)
     const Cancellation cancellation = m_cancellation;
     setPhase(starting);
     // The task frees itself when the flow ends; the cancellation is the only handle needed.
-    run(base, cancellation, m_transport);
+    // The steps carry no token, so the client is given no way to read one.
+    run(QuorvaneAPI{base, {}, m_transport, cancellation});
 }
 
 void DeviceSignIn::cancel()
@@ -100,11 +77,12 @@ void DeviceSignIn::cancel()
     setPhase(idle);
 }
 
-QCoro::Task<void> DeviceSignIn::run(QUrl base, Cancellation cancellation, std::shared_ptr<HTTPTransport> transport)
+QCoro::Task<void> DeviceSignIn::run(QuorvaneAPI api)
 {
+    const Cancellation cancellation = api.cancellation;
     std::exception_ptr error;
     try {
-        co_await flow(std::move(base), cancellation, std::move(transport));
+        co_await flow(std::move(api));
     } catch (...) {
         error = std::current_exception();
     }
@@ -113,22 +91,20 @@ QCoro::Task<void> DeviceSignIn::run(QUrl base, Cancellation cancellation, std::s
         setPhase(failed, {}, {}, describe(error));
 }
 
-QCoro::Task<void> DeviceSignIn::flow(QUrl base, Cancellation cancellation, std::shared_ptr<HTTPTransport> transport)
+QCoro::Task<void> DeviceSignIn::flow(QuorvaneAPI api)
 {
-    const QJsonObject label{{u"label"_s, MachineInfo::deviceLabel()}};
-    const Codes codes =
-        codesFrom(co_await post(endpoint(base, u"auth/device/start"_s), label, cancellation, transport));
-    setPhase(waiting, codes.userCode, codes.url);
+    const Cancellation cancellation = api.cancellation;
+    const DeviceCodes codes = co_await api.deviceStart(MachineInfo::deviceLabel());
+    cancellation.throwIfCancelled();
+    setPhase(waiting, codes.userCode, codes.page);
     cancellation.throwIfCancelled(); // an observer of the phase may have cancelled
-    m_opener->open(codes.url);
+    m_opener->open(codes.page);
 
     const Instant deadline = m_clock->now().addMSecs(m_timings.deadline.count());
-    const HTTPRequest poll =
-        requestFor(endpoint(base, u"auth/device/poll"_s), QJsonObject{{u"device_code"_s, codes.deviceCode}});
     while (m_clock->now() < deadline) {
         co_await Cancellation::sleep(m_timings.pollInterval, cancellation);
         // A failed exchange ends the flow here: only "not yet approved" keeps it polling.
-        const HTTPResponse answer = co_await transport->send(poll, cancellation);
+        const HTTPResponse answer = co_await api.devicePoll(codes.deviceCode);
         cancellation.throwIfCancelled();
         if (answer.status != 428) {
             conclude(answer);
@@ -136,33 +112,6 @@ QCoro::Task<void> DeviceSignIn::flow(QUrl base, Cancellation cancellation, std::
         }
     }
     setPhase(failed, {}, {}, u"Timed out waiting for approval."_s);
-}
-
-QCoro::Task<QJsonObject> DeviceSignIn::post(QUrl url, QJsonObject body, Cancellation cancellation,
-                                            std::shared_ptr<HTTPTransport> transport)
-{
-    const HTTPResponse answer = co_await transport->send(requestFor(url, body), cancellation);
-    cancellation.throwIfCancelled();
-    if (answer.status != 200)
-        throw APIError::server(answer.status, u"Couldn't start sign-in."_s);
-    QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(answer.body, &error);
-    if (error.error != QJsonParseError::NoError)
-        throw BadServerResponse();
-    co_return document.object();
-}
-
-DeviceSignIn::Codes DeviceSignIn::codesFrom(const QJsonObject &answer)
-{
-    const QJsonValue device = answer.value("device_code"_L1);
-    const QJsonValue user = answer.value("user_code"_L1);
-    const QJsonValue page = answer.value("verification_uri_complete"_L1);
-    if (!device.isString() || !user.isString() || !page.isString())
-        throw BadServerResponse();
-    const QUrl url(page.toString(), QUrl::StrictMode);
-    if (url.isEmpty() || !url.isValid())
-        throw BadServerResponse();
-    return Codes{device.toString(), user.toString(), url};
 }
 
 void DeviceSignIn::conclude(const HTTPResponse &answer)

@@ -2,9 +2,9 @@
 
 #include "Cancellation.h"
 #include "HTTPTransport.h"
+#include "QuorvaneAPI.h"
 
 #include <QCoroTask>
-#include <QJsonObject>
 #include <QObject>
 #include <QUrl>
 
@@ -67,18 +67,8 @@ Q_SIGNALS:
     void activateRequested();
 
 private:
-    struct Codes {
-        QString deviceCode;
-        QString userCode;
-        QUrl url;
-    };
-
-    QCoro::Task<void> run(QUrl base, Cancellation cancellation, std::shared_ptr<HTTPTransport> transport);
-    QCoro::Task<void> flow(QUrl base, Cancellation cancellation, std::shared_ptr<HTTPTransport> transport);
-    // One step that must answer 200 with JSON; throws otherwise.
-    static QCoro::Task<QJsonObject> post(QUrl url, QJsonObject body, Cancellation cancellation,
-                                         std::shared_ptr<HTTPTransport> transport);
-    [[nodiscard]] static Codes codesFrom(const QJsonObject &answer);
+    QCoro::Task<void> run(QuorvaneAPI api);
+    QCoro::Task<void> flow(QuorvaneAPI api);
     void conclude(const HTTPResponse &answer);
     void store(const QString &token);
     void setPhase(Phase phase, QString code = {}, QUrl url = {}, QString message = {});

@@ -3,6 +3,7 @@
 // trying again.
 #include "ModelRig.h"
 #include "onboarding/DeviceSignIn.h"
+#include "support/ScriptedServer.h"
 
 #include <QTest>
 #include <QTimer>
@@ -72,6 +73,24 @@ private Q_SLOTS:
         QVERIFY(token && flow.rig.server.sandbox().devices().isValid(*token));
         QVERIFY(!model->needsSignIn());
         QTRY_VERIFY(model->account().has_value());
+    }
+
+    // Both steps go out as this client's own requests, and the token already in the keyring
+    // stays out of them.
+    void requestsAreTheClientsOwnWithoutAToken()
+    {
+        Flow flow;
+        QVERIFY2(flow.started, qPrintable(flow.why));
+        ScriptedServer server;
+        server.enqueue(
+            {{200, R"({"device_code":"d","user_code":"U","verification_uri_complete":"https:\/\/h\/d"})"}, {500, {}}});
+        flow.signIn.start(server.base());
+        QTRY_COMPARE(flow.signIn.phase(), Phase::failed);
+        QCOMPARE(server.requests().size(), 2);
+        for (const ScriptedServer::Request &request : server.requests()) {
+            QCOMPARE(request.header("user-agent"), "Quorvane-Linux/2.0"_ba);
+            QCOMPARE(request.header("authorization"), QByteArray());
+        }
     }
 
     void failures_data()
