@@ -1,7 +1,5 @@
 #include "main/SectionListModel.h"
 
-#include "model/AppBinding.h"
-
 #include <QKeySequence>
 
 using namespace Qt::StringLiterals;
@@ -9,17 +7,14 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 SectionListModel::SectionListModel(QObject *parent)
-    : QAbstractListModel(parent)
+    : AppListModel({&AppModel::snapshotChanged, &AppModel::ticked}, parent)
     , m_sections(Section::allCases())
 {}
 
-void SectionListModel::setApp(AppModel *app)
+// The sections stay; only their badges move with the snapshot and the clock.
+void SectionListModel::rebuild()
 {
-    if (!AppBinding::follow(m_app, app, this, {&AppModel::snapshotChanged, &AppModel::ticked},
-                            &SectionListModel::badgesChanged))
-        return;
-    badgesChanged();
-    Q_EMIT appChanged();
+    replaceRows(m_sections, Section::allCases(), {BadgeRole});
 }
 
 int SectionListModel::badge(AppSection section, const AppModel &app)
@@ -32,12 +27,6 @@ int SectionListModel::badge(AppSection section, const AppModel &app)
     default:
         return 0;
     }
-}
-
-void SectionListModel::badgesChanged()
-{
-    if (!m_sections.isEmpty())
-        Q_EMIT dataChanged(index(0), index(int(m_sections.size()) - 1), {BadgeRole});
 }
 
 int SectionListModel::rowCount(const QModelIndex &parent) const
@@ -65,7 +54,7 @@ QVariant SectionListModel::data(const QModelIndex &index, int role) const
         return u"Shortcut "_s + keys.toString(QKeySequence::NativeText);
     }
     case BadgeRole:
-        return m_app ? badge(section, *m_app) : 0;
+        return app() ? badge(section, *app()) : 0;
     default:
         return {};
     }

@@ -1,22 +1,16 @@
 #pragma once
 
+#include "model/AppListModel.h"
 #include "model/AppSection.h"
-
-#include <QAbstractListModel>
-#include <QPointer>
-#include <QtQml/qqmlregistration.h>
 
 namespace quorvane {
 
-class AppModel;
-
 // The sidebar's six section rows, with their badges: Today counts today's meetings,
 // Bookings the upcoming ones, the others show none. Badges follow the snapshot and the clock.
-class SectionListModel : public QAbstractListModel
+class SectionListModel : public AppListModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quorvane::AppModel *app READ app WRITE setApp NOTIFY appChanged)
 
 public:
     enum Role {
@@ -31,9 +25,6 @@ public:
 
     explicit SectionListModel(QObject *parent = nullptr);
 
-    [[nodiscard]] AppModel *app() const { return m_app; }
-    void setApp(AppModel *app);
-
     [[nodiscard]] static int badge(AppSection section, const AppModel &app);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
@@ -45,13 +36,10 @@ public:
     // The section id of a row, or an empty text.
     Q_INVOKABLE QString idAt(int row) const;
 
-Q_SIGNALS:
-    void appChanged();
+protected:
+    void rebuild() override;
 
 private:
-    void badgesChanged();
-
-    QPointer<AppModel> m_app;
     QList<AppSection> m_sections;
 };
 

@@ -2,9 +2,8 @@
 
 #include "model/AppModel.h"
 
+#include <QList>
 #include <QPointer>
-
-#include <initializer_list>
 
 // View models take the application model as a QML property and redraw on some of its
 // signals; this moves those connections when the property changes.
@@ -16,8 +15,7 @@ using Signal = void (AppModel::*)();
 // `slot` on `receiver`, and nothing of the old model reaches it. False when `next` is the
 // model already followed.
 template <typename Receiver, typename Slot>
-bool follow(QPointer<AppModel> &current, AppModel *next, Receiver *receiver, std::initializer_list<Signal> signals,
-            Slot slot)
+bool follow(QPointer<AppModel> &current, AppModel *next, Receiver *receiver, const QList<Signal> &signals, Slot slot)
 {
     if (current == next)
         return false;

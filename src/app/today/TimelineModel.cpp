@@ -2,68 +2,45 @@
 
 #include "Formats.h"
 #include "components/HexColor.h"
-#include "model/AppBinding.h"
 #include "today/Timeline.h"
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
 
-void TimelineModel::setApp(AppModel *app)
-{
-    if (!AppBinding::follow(m_app, app, this, {&AppModel::snapshotChanged, &AppModel::ticked}, &TimelineModel::reload))
-        return;
-    Q_EMIT appChanged();
-    reload();
-}
+TimelineModel::TimelineModel(QObject *parent)
+    : AppListModel({&AppModel::snapshotChanged, &AppModel::ticked}, parent)
+{}
 
-void TimelineModel::reload()
+void TimelineModel::rebuild()
 {
-    QList<Booking> bookings = m_app ? m_app->today() : QList<Booking>();
-    m_now = m_app ? m_app->now() : QDateTime();
-    const auto ids = [](const QList<Booking> &list) {
-        QStringList out;
-        for (const Booking &b : list)
-            out.append(b.id);
-        return out;
-    };
-    // The same rows keep their delegates; only what they show is told to change.
-    if (ids(bookings) == ids(m_bookings)) {
-        m_bookings = std::move(bookings);
-        if (!m_bookings.isEmpty())
-            Q_EMIT dataChanged(index(0), index(int(m_bookings.size()) - 1));
-        return;
-    }
-    const int before = count();
-    beginResetModel();
-    m_bookings = std::move(bookings);
-    endResetModel();
-    if (count() != before)
-        Q_EMIT countChanged();
+    m_now = app() ? app()->now() : QDateTime();
+    replaceRows(m_bookings, app() ? app()->today() : QList<Booking>());
 }
 
 int TimelineModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : count();
+    return parent.isValid() ? 0 : int(m_bookings.size());
 }
 
 QVariant TimelineModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid) || !m_app)
+    const AppModel *model = app();
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid) || !model)
         return {};
     const Booking &b = m_bookings.at(index.row());
     switch (role) {
     case IdRole:
         return b.id;
     case TimeRole:
-        return Formats::format(b.start, u"jmm"_s, m_app->locale(), m_app->zone());
+        return Formats::format(b.start, u"jmm"_s, model->locale(), model->zone());
     case Qt::DisplayRole:
     case NameRole:
         return b.name;
     case DetailRole:
-        return Timeline::detail(m_app->typeTitle(b.type), Timeline::minutes(b));
+        return Timeline::detail(model->typeTitle(b.type), Timeline::minutes(b));
     case ColorRole:
-        return HexColor::parse(m_app->typeColorHex(b.type));
+        return HexColor::parse(model->typeColorHex(b.type));
     case PastRole:
         return Timeline::isPast(b, m_now);
     case LiveRole:
@@ -86,8 +63,8 @@ QHash<int, QByteArray> TimelineModel::roleNames() const
 
 void TimelineModel::join(int row)
 {
-    if (m_app && row >= 0 && row < count())
-        m_app->join(m_bookings.at(row));
+    if (app() && row >= 0 && row < m_bookings.size())
+        app()->join(m_bookings.at(row));
 }
 
 } // namespace quorvane

@@ -1,23 +1,17 @@
 #pragma once
 
-#include "Booking.h"
+#include "model/AppListModel.h"
 
-#include <QAbstractListModel>
-#include <QPointer>
-#include <QtQml/qqmlregistration.h>
+#include "Booking.h"
 
 namespace quorvane {
 
-class AppModel;
-
 // Today's bookings as timeline rows, in the model's order, re-judged at every model change
 // and minute tick: a row dims once its meeting ends and its marker is green while it runs.
-class TimelineModel : public QAbstractListModel
+class TimelineModel : public AppListModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quorvane::AppModel *app READ app WRITE setApp NOTIFY appChanged)
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum Role {
@@ -33,11 +27,7 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
-
-    [[nodiscard]] AppModel *app() const { return m_app; }
-    void setApp(AppModel *app);
-    [[nodiscard]] int count() const { return int(m_bookings.size()); }
+    explicit TimelineModel(QObject *parent = nullptr);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
@@ -45,14 +35,10 @@ public:
 
     Q_INVOKABLE void join(int row);
 
-Q_SIGNALS:
-    void appChanged();
-    void countChanged();
+protected:
+    void rebuild() override;
 
 private:
-    void reload();
-
-    QPointer<AppModel> m_app;
     QList<Booking> m_bookings;
     QDateTime m_now;
 };
