@@ -18,7 +18,7 @@ Rectangle {
         id: sections
         app: App
     }
-    ShareLinkModel {
+    TypeLinksModel {
         id: shareLinks
         app: App
     }

@@ -13,7 +13,7 @@ GridLayout {
     columnSpacing: 6
     rowSpacing: 6
 
-    LinkTypesModel {
+    TypeLinksModel {
         id: links
         app: App
     }
@@ -27,7 +27,7 @@ GridLayout {
             required property string title
             required property string minutes
             required property color typeColor
-            required property string accessibleName
+            required property string shortAccessibleName
 
             Layout.fillWidth: true
             Layout.preferredWidth: 1
@@ -37,9 +37,9 @@ GridLayout {
             topPadding: 0
             bottomPadding: 0
             focusPolicy: Qt.NoFocus
-            onClicked: links.copy(index)
+            onClicked: links.copyLink(index)
             Accessible.role: Accessible.Button
-            Accessible.name: accessibleName
+            Accessible.name: shortAccessibleName
 
             background: Rectangle {
                 radius: 6

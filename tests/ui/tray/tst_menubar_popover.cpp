@@ -111,7 +111,7 @@ private Q_SLOTS:
             view.key(Qt::Key_J, Qt::ControlModifier | Qt::ShiftModifier);
         } else {
             QList<QQuickItem *> copy = view.all(u"copyLink"_s);
-            copy.removeIf([&](const QQuickItem *item) { return item->property("accessibleName") != control; });
+            copy.removeIf([&](const QQuickItem *item) { return item->property("shortAccessibleName") != control; });
             view.click(copy.isEmpty() ? view.item(control) : copy.first());
         }
         QTRY_VERIFY(!effects().isEmpty());

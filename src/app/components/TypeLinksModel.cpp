@@ -1,0 +1,69 @@
+#include "components/TypeLinksModel.h"
+
+#include "components/HexColor.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane {
+
+TypeLinksModel::TypeLinksModel(QObject *parent)
+    : AppListModel({&AppModel::snapshotChanged, &AppModel::preferencesChanged}, parent)
+{}
+
+void TypeLinksModel::rebuild()
+{
+    replaceRows(m_types, app() ? app()->activeTypes() : QList<EventType>());
+}
+
+int TypeLinksModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_types.size());
+}
+
+QVariant TypeLinksModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid) || !app())
+        return {};
+    const EventType &type = m_types.at(index.row());
+    switch (role) {
+    case SlugRole:
+        return type.slug;
+    case Qt::DisplayRole:
+    case TitleRole:
+        return type.title;
+    case MinutesRole:
+        return u"%1m"_s.arg(type.minutes);
+    case ColorRole:
+        return HexColor::parse(type.colorHex);
+    case LinkRole:
+        return app()->link(type);
+    case ToolTipRole:
+        return u"Copy "_s + app()->link(type);
+    case AccessibleNameRole:
+        return u"Copy link for "_s + type.title;
+    case ShortAccessibleNameRole:
+        return u"Copy %1 link"_s.arg(type.title);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> TypeLinksModel::roleNames() const
+{
+    return {{SlugRole, "slug"},
+            {TitleRole, "title"},
+            {MinutesRole, "minutes"},
+            {ColorRole, "typeColor"},
+            {LinkRole, "link"},
+            {ToolTipRole, "toolTip"},
+            {AccessibleNameRole, "accessibleName"},
+            {ShortAccessibleNameRole, "shortAccessibleName"}};
+}
+
+void TypeLinksModel::copyLink(int row)
+{
+    if (app() && row >= 0 && row < m_types.size())
+        app()->copyLink(m_types.at(row));
+}
+
+} // namespace quorvane

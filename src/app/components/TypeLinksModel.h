@@ -1,0 +1,46 @@
+#pragma once
+
+#include "model/AppListModel.h"
+
+#include "EventType.h"
+
+namespace quorvane {
+
+// The active event types in the host's order, each a one-click "copy my link": the tray's
+// grid of buttons and the sidebar's "Share links". Rebuilt when the snapshot or the server
+// address changes.
+class TypeLinksModel : public AppListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    enum Role {
+        SlugRole = Qt::UserRole + 1,
+        TitleRole,
+        MinutesRole, // "30m"
+        ColorRole,   // QColor of the type
+        LinkRole,
+        ToolTipRole,             // "Copy {link}"
+        AccessibleNameRole,      // "Copy link for {title}", a row that also shows the link's icon
+        ShortAccessibleNameRole, // "Copy {title} link", a small button in a grid
+    };
+    Q_ENUM(Role)
+
+    explicit TypeLinksModel(QObject *parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    // Puts the row's public link on the clipboard; the model shows the toast.
+    Q_INVOKABLE void copyLink(int row);
+
+protected:
+    void rebuild() override;
+
+private:
+    QList<EventType> m_types;
+};
+
+} // namespace quorvane
