@@ -227,8 +227,10 @@ QCoro::Task<std::optional<QUrl>> googleLink(QuorvaneAPI api)
 QCoro::Task<HTTPResponse> unsignedPost(QuorvaneAPI api, QString path, QJsonObject body)
 {
     Q_ASSERT(api.transport);
-    const HTTPRequest prepared = prepare(urlFor(api.base, path, {}), QByteArrayLiteral("POST"),
-                                         QJsonDocument(body).toJson(QJsonDocument::Compact), std::nullopt);
+    HTTPRequest prepared = prepare(urlFor(api.base, path, {}), QByteArrayLiteral("POST"),
+                                   QJsonDocument(body).toJson(QJsonDocument::Compact), std::nullopt);
+    // A sign-in step waits longer than the other operations: the server may be slow to mint codes.
+    prepared.request.setTransferTimeout(60'000);
     co_return co_await api.transport->send(prepared, api.cancellation);
 }
 
