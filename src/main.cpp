@@ -94,6 +94,7 @@ int main(int argc, char *argv[])
     AppModel model(env);
     SetupServices setup(model, env, loginItem);
     ShellController shell;
+    shell.setStartHidden(options.hidden);
     CommandTable commands(model, shell, opener);
 
     QObject::connect(&notifier, &Notifier::joinRequested, &notifier, [&opener](const QUrl &url) { opener.open(url); });

@@ -64,37 +64,53 @@ CommandTable::CommandTable(AppModel &model, ShellController &shell, const UrlOpe
     rows.append({u"shareTimes"_s, u"Share Times…"_s, u"paperplane"_s, keys(CommandId::ShareTimes),
                  u"Quick Share times"_s, open(AppWindow::Share)});
     // The sheet belongs to the Polls screen, which must be showing first.
-    rows.append({u"newPoll"_s, u"New Poll"_s, u"plus.square.on.square"_s, keys(CommandId::NewPoll),
-                 u"New poll"_s, [app] {
-                     app->setSection(AppSection::polls);
-                     app->setShowNewPoll(true);
-                 }});
+    rows.append(
+        {u"newPoll"_s, u"New Poll"_s, u"plus.square.on.square"_s, keys(CommandId::NewPoll), u"New poll"_s, [app] {
+             app->setSection(AppSection::polls);
+             app->setShowNewPoll(true);
+         }});
     rows.append({u"refresh"_s, u"Refresh"_s, u"arrow.clockwise"_s, keys(CommandId::Refresh), u"Refresh"_s,
                  [app] { app->refreshNow(); }});
-    rows.append({u"openDashboard"_s, u"Open Web Dashboard"_s, u"safari"_s, {}, u"Open web dashboard"_s,
-                 [app, links] { links->open(dashboard(app->baseURL())); }});
-    rows.append({u"openBookingPage"_s, u"Open My Booking Page"_s, u"person.crop.square"_s, {},
-                 u"Open my booking page"_s, [app, links] {
+    rows.append({u"openDashboard"_s, u"Open Web Dashboard"_s, u"safari"_s, {}, u"Open web dashboard"_s, [app, links] {
+                     links->open(dashboard(app->baseURL()));
+                 }});
+    rows.append({u"openBookingPage"_s,
+                 u"Open My Booking Page"_s,
+                 u"person.crop.square"_s,
+                 {},
+                 u"Open my booking page"_s,
+                 [app, links] {
                      const QUrl page(app->pageLink(), QUrl::StrictMode);
                      if (page.isValid())
                          links->open(page);
                  }});
     rows.append({u"settings"_s, u"Settings…"_s, u"gearshape"_s, keys(CommandId::Settings), u"Settings"_s,
                  open(AppWindow::Settings)});
-    rows.append({u"commandPalette"_s, u"Command Palette…"_s, u"command"_s, keys(CommandId::CommandPalette), {},
-                 [app] { app->setShowPalette(true); }});
-    rows.append({u"joinNext"_s, u"Join Next Meeting"_s, u"video.fill"_s, keys(CommandId::JoinNext), {},
-                 [app] { app->joinNext(); }, [app] { return app->canJoinNext(); }});
+    rows.append({u"commandPalette"_s, u"Command Palette…"_s, u"command"_s, keys(CommandId::CommandPalette), {}, [app] {
+                     app->setShowPalette(true);
+                 }});
+    rows.append({u"joinNext"_s,
+                 u"Join Next Meeting"_s,
+                 u"video.fill"_s,
+                 keys(CommandId::JoinNext),
+                 {},
+                 [app] { app->joinNext(); },
+                 [app] { return app->canJoinNext(); }});
     rows.append({u"openMain"_s, u"Open Quorvane"_s, u"macwindow"_s, {}, {}, open(AppWindow::Main)});
-    rows.append({u"welcomeGuide"_s, u"Welcome Guide"_s, u"questionmark.circle"_s, {}, {},
-                 open(AppWindow::Onboarding)});
+    rows.append({u"welcomeGuide"_s, u"Welcome Guide"_s, u"questionmark.circle"_s, {}, {}, open(AppWindow::Onboarding)});
     rows.append({u"about"_s, u"About Quorvane"_s, u"info.circle"_s, {}, {}, open(AppWindow::About)});
     // Until an update feed is configured there is nothing to check.
-    rows.append({u"checkForUpdates"_s, u"Check for Updates…"_s, u"arrow.down.circle"_s, {}, {}, {},
-                 [] { return false; }});
+    rows.append(
+        {u"checkForUpdates"_s, u"Check for Updates…"_s, u"arrow.down.circle"_s, {}, {}, {}, [] { return false; }});
     rows.append({u"madeBy"_s, About::madeBy(maker.name.trimmed()), u"person"_s, {}, {}, open(AppWindow::About)});
-    rows.append({u"makerSite"_s, site.isEmpty() ? QString() : About::siteName(site), u"globe"_s, {}, {},
-                 [links, site] { links->open(site); }, {}, !site.isEmpty()});
+    rows.append({u"makerSite"_s,
+                 site.isEmpty() ? QString() : About::siteName(site),
+                 u"globe"_s,
+                 {},
+                 {},
+                 [links, site] { links->open(site); },
+                 {},
+                 !site.isEmpty()});
     rows.append({u"quit"_s, u"Quit"_s, u"power"_s, keys(CommandId::Quit), {}, [windows] { windows->quit(); }});
     Q_ASSERT(rows.size() == CommandId::Quit + 1);
 
@@ -132,15 +148,24 @@ QKeySequence CommandTable::keys(CommandId::Id id)
     case CommandId::GoTypes:
     case CommandId::GoAvailability:
     case CommandId::GoPolls:
-    case CommandId::GoInsights: return ctrl(Qt::Key_1 + (id - CommandId::GoToday));
-    case CommandId::ShareTimes: return ctrl(Qt::Key_S, Qt::ShiftModifier);
-    case CommandId::NewPoll: return ctrl(Qt::Key_N, Qt::ShiftModifier);
-    case CommandId::Refresh: return ctrl(Qt::Key_R);
-    case CommandId::Settings: return ctrl(Qt::Key_Comma);
-    case CommandId::CommandPalette: return ctrl(Qt::Key_K);
-    case CommandId::JoinNext: return ctrl(Qt::Key_J, Qt::ShiftModifier);
-    case CommandId::Quit: return ctrl(Qt::Key_Q);
-    default: return {};
+    case CommandId::GoInsights:
+        return ctrl(Qt::Key_1 + (id - CommandId::GoToday));
+    case CommandId::ShareTimes:
+        return ctrl(Qt::Key_S, Qt::ShiftModifier);
+    case CommandId::NewPoll:
+        return ctrl(Qt::Key_N, Qt::ShiftModifier);
+    case CommandId::Refresh:
+        return ctrl(Qt::Key_R);
+    case CommandId::Settings:
+        return ctrl(Qt::Key_Comma);
+    case CommandId::CommandPalette:
+        return ctrl(Qt::Key_K);
+    case CommandId::JoinNext:
+        return ctrl(Qt::Key_J, Qt::ShiftModifier);
+    case CommandId::Quit:
+        return ctrl(Qt::Key_Q);
+    default:
+        return {};
     }
 }
 

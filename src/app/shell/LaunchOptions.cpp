@@ -1,6 +1,7 @@
 #include "shell/LaunchOptions.h"
 
 #include "BuildInfo.h"
+#include "shell/AppWindow.h"
 
 #include <QCommandLineParser>
 #include <QUrl>
@@ -32,7 +33,12 @@ bool isServer(const QString &text)
 
 const QStringList &LaunchOptions::windowIds()
 {
-    static const QStringList ids{u"main"_s, u"share"_s, u"onboarding"_s, u"about"_s, u"settings"_s};
+    static const QStringList ids = [] {
+        QStringList names;
+        for (const AppWindow::Id window : AppWindow::all())
+            names.append(AppWindow::name(window));
+        return names;
+    }();
     return ids;
 }
 
@@ -46,7 +52,8 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
     const QCommandLineOption share(u"share"_s, u"Open Share Times (in the running Quorvane, if any)."_s);
     const QCommandLineOption open(u"open"_s, u"Open a window: %1."_s.arg(windowIds().join(u", "_s)), u"ID"_s);
     const QCommandLineOption selfTest(u"self-test"_s, u"Load the interface, draw it once, report and exit."_s);
-    parser.addOptions({help, version, server, share, open, selfTest});
+    const QCommandLineOption hidden(u"hidden"_s, u"Start in the tray without opening a window."_s);
+    parser.addOptions({help, version, server, share, open, selfTest, hidden});
 
     if (!parser.parse(arguments))
         return stop(2, parser.errorText());
@@ -65,6 +72,7 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
         out.server = url;
     }
     out.selfTest = parser.isSet(selfTest);
+    out.hidden = parser.isSet(hidden) && !out.selfTest;
     if (parser.isSet(open)) {
         out.window = parser.value(open);
         if (!windowIds().contains(out.window))

@@ -12,6 +12,7 @@ namespace quorvane {
 struct LaunchOptions {
     std::optional<QString> server; // becomes the "serverURL" preference before the model starts
     bool selfTest = false;         // load every QML file, draw the main window once, report, exit
+    bool hidden = false;           // start in the tray with no window open
     QString window = QStringLiteral("main");
 
     // Set when the launch ends here: help or version (exit 0) or a mistake (exit 2).

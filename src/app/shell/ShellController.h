@@ -21,9 +21,14 @@ class ShellController : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the application and reached as Shell.")
+    Q_PROPERTY(bool startHidden READ startHidden CONSTANT)
 
 public:
     using QObject::QObject;
+
+    // Set before the QML loads: the app starts in the tray, with the main window not shown.
+    [[nodiscard]] bool startHidden() const { return m_startHidden; }
+    void setStartHidden(bool hidden) { m_startHidden = hidden; }
 
     // Brings the app to the front and opens (or raises) that window.
     Q_INVOKABLE void open(quorvane::AppWindow::Id window) { Q_EMIT openRequested(window); }
@@ -48,6 +53,7 @@ private:
     [[nodiscard]] QQmlComponent *component(QObject *user, const QmlType &type);
 
     QHash<QString, QPointer<QQmlComponent>> m_components;
+    bool m_startHidden = false;
 };
 
 } // namespace quorvane

@@ -7,12 +7,14 @@ namespace quorvane::ViewTable {
 QmlType section(AppSection section)
 {
     switch (section) {
-    case AppSection::today: return {u"Quorvane.Today"_s, u"TodayView"_s};
+    case AppSection::today:
+        return {u"Quorvane.Today"_s, u"TodayView"_s};
     case AppSection::bookings:
     case AppSection::types:
     case AppSection::availability:
     case AppSection::polls:
-    case AppSection::insights: break;
+    case AppSection::insights:
+        break;
     }
     return {};
 }
@@ -20,11 +22,16 @@ QmlType section(AppSection section)
 QmlType window(AppWindow::Id window)
 {
     switch (window) {
-    case AppWindow::Main: return {u"Quorvane.Main"_s, u"MainWindow"_s};
-    case AppWindow::Share: return {u"Quorvane.Shell"_s, u"ShareWindow"_s};
-    case AppWindow::Onboarding: return {u"Quorvane.Shell"_s, u"OnboardingWindow"_s};
-    case AppWindow::About: return {u"Quorvane.Shell"_s, u"AboutWindow"_s};
-    case AppWindow::Settings: return {u"Quorvane.Shell"_s, u"SettingsWindow"_s};
+    case AppWindow::Main:
+        return {u"Quorvane.Main"_s, u"MainWindow"_s};
+    case AppWindow::Share:
+        return {u"Quorvane.Shell"_s, u"ShareWindow"_s};
+    case AppWindow::Onboarding:
+        return {u"Quorvane.Shell"_s, u"OnboardingWindow"_s};
+    case AppWindow::About:
+        return {u"Quorvane.Shell"_s, u"AboutWindow"_s};
+    case AppWindow::Settings:
+        return {u"Quorvane.Shell"_s, u"SettingsWindow"_s};
     }
     return {};
 }
@@ -32,11 +39,14 @@ QmlType window(AppWindow::Id window)
 QmlType content(AppWindow::Id window)
 {
     switch (window) {
-    case AppWindow::Onboarding: return {u"Quorvane.Onboarding"_s, u"OnboardingView"_s};
-    case AppWindow::About: return {u"Quorvane.About"_s, u"AboutView"_s};
+    case AppWindow::Onboarding:
+        return {u"Quorvane.Onboarding"_s, u"OnboardingView"_s};
+    case AppWindow::About:
+        return {u"Quorvane.About"_s, u"AboutView"_s};
     case AppWindow::Main:
     case AppWindow::Share:
-    case AppWindow::Settings: break;
+    case AppWindow::Settings:
+        break;
     }
     return {};
 }

@@ -10,7 +10,7 @@ QtObject {
 
     property MainWindow mainWindow: MainWindow {
         objectName: "main"
-        visible: true
+        visible: !Shell.startHidden
         // Each time the main window's content appears: start the model, and bring up the
         // welcome guide until it has been finished once.
         onVisibleChanged: {
@@ -21,6 +21,13 @@ QtObject {
 
     // The other windows made so far, by id.
     property var made: ({})
+
+    // Started in the tray: the model runs for the tray's sake; the welcome guide waits until
+    // the main window first appears.
+    Component.onCompleted: {
+        if (Shell.startHidden)
+            App.start()
+    }
 
     function bootstrap() {
         App.start()

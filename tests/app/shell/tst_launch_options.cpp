@@ -30,6 +30,8 @@ private Q_SLOTS:
         runs("https server, final slash", {u"--server=https://a.example/"_s}, u"main https://a.example/"_s);
         runs("self-test with a server", {u"--self-test"_s, u"--server=http://127.0.0.1:9"_s},
              u"main http://127.0.0.1:9 self-test"_s);
+        runs("hidden in the tray", {u"--hidden"_s}, u"main hidden"_s);
+        runs("self-test always shows its window", {u"--self-test"_s, u"--hidden"_s}, u"main self-test"_s);
         stops("help", {u"--help"_s}, 0, u"--server <URL>"_s);
         stops("version", {u"--version"_s}, 0, u"Quorvane "_s);
         stops("unknown option", {u"--frobnicate"_s}, 2, u"frobnicate"_s);
@@ -51,6 +53,7 @@ private Q_SLOTS:
         if (exitCode < 0) {
             QStringList got{options.window, options.server.value_or(QString())};
             got.append(options.selfTest ? u"self-test"_s : QString());
+            got.append(options.hidden ? u"hidden"_s : QString());
             got.removeAll(QString());
             QCOMPARE(got.join(u' '), outcome);
         } else {
