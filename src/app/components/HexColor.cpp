@@ -1,13 +1,13 @@
 #include "components/HexColor.h"
 
+#include "components/Tint.h"
+
 #include <limits>
 #include <optional>
 
 namespace quorvane::HexColor {
 
 namespace {
-constexpr quint64 fallback = 0x0A84FF;
-
 std::optional<quint64> hexNumber(QStringView digits)
 {
     if (digits.startsWith(u'+'))
@@ -35,15 +35,17 @@ QColor parse(const QString &text)
         rest = rest.mid(1);
     while (rest.endsWith(u'#'))
         rest.chop(1);
-    const quint64 value = hexNumber(rest).value_or(fallback);
-    return QColor(int((value >> 16) & 0xFF), int((value >> 8) & 0xFF), int(value & 0xFF));
+    const std::optional<quint64> value = hexNumber(rest);
+    if (!value)
+        return Tints::color(Tints::unreadableColor);
+    return QColor(int((*value >> 16) & 0xFF), int((*value >> 8) & 0xFF), int(*value & 0xFF));
 }
 
 QString string(const QColor &color)
 {
     const QColor rgb = color.toRgb();
     if (!rgb.isValid())
-        return QStringLiteral("#0A84FF");
+        return string(Tints::color(Tints::unreadableColor));
     return QStringLiteral("#%1%2%3")
         .arg(qRound(rgb.redF() * 255), 2, 16, QLatin1Char('0'))
         .arg(qRound(rgb.greenF() * 255), 2, 16, QLatin1Char('0'))

@@ -7,7 +7,8 @@
 
 namespace quorvane {
 
-// The named tints for QML, so a screen writes SystemColors.orange and every screen agrees.
+// The named tints for QML. Screens read them through Style, which adds the spacing and corner
+// scales; this type is how Style reaches the one table of colours in Tints.
 class SystemColors : public QObject
 {
     Q_OBJECT
@@ -22,6 +23,7 @@ class SystemColors : public QObject
     Q_PROPERTY(QColor purple READ purple CONSTANT)
     Q_PROPERTY(QColor pink READ pink CONSTANT)
     Q_PROPERTY(QColor secondary READ secondary CONSTANT)
+    Q_PROPERTY(QColor unknownType READ unknownType CONSTANT)
 
 public:
     using QObject::QObject;
@@ -35,6 +37,7 @@ public:
     [[nodiscard]] static QColor purple() { return Tints::color(Tint::purple); }
     [[nodiscard]] static QColor pink() { return Tints::color(Tint::pink); }
     [[nodiscard]] static QColor secondary() { return Tints::color(Tint::secondary); }
+    [[nodiscard]] static QColor unknownType() { return Tints::color(Tints::unknownType); }
 
     // A colour from a hex text as the server writes it (see HexColor::parse).
     Q_INVOKABLE static QColor fromHex(const QString &hex);

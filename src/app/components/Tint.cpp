@@ -1,30 +1,44 @@
 #include "components/Tint.h"
 
+#include "components/HexColor.h"
+
 namespace quorvane::Tints {
 
-QColor color(Tint tint)
+namespace {
+QRgb rgb(Tint tint)
 {
     switch (tint) {
     case Tint::accent:
-        return QColor(0x0A, 0x84, 0xFF);
+        return 0x0A84FF;
     case Tint::red:
-        return QColor(0xFF, 0x3B, 0x30);
+        return 0xFF3B30;
     case Tint::orange:
-        return QColor(0xFF, 0x95, 0x00);
+        return 0xFF9500;
     case Tint::yellow:
-        return QColor(0xFF, 0xCC, 0x00);
+        return 0xFFCC00;
     case Tint::green:
-        return QColor(0x34, 0xC7, 0x59);
+        return 0x34C759;
     case Tint::blue:
-        return QColor(0x00, 0x7A, 0xFF);
+        return 0x007AFF;
     case Tint::purple:
-        return QColor(0xAF, 0x52, 0xDE);
+        return 0xAF52DE;
     case Tint::pink:
-        return QColor(0xFF, 0x2D, 0x55);
+        return 0xFF2D55;
     case Tint::secondary:
-        return QColor(0x8E, 0x8E, 0x93);
+        break;
     }
-    return QColor(0x8E, 0x8E, 0x93);
+    return 0x8E8E93;
+}
+} // namespace
+
+QColor color(Tint tint)
+{
+    return QColor::fromRgb(rgb(tint));
+}
+
+QString hex(Tint tint)
+{
+    return HexColor::string(color(tint));
 }
 
 } // namespace quorvane::Tints

@@ -6,6 +6,7 @@
 #include "Formats.h"
 #include "Notifier.h"
 #include "WeekCalendar.h"
+#include "components/Tint.h"
 #include "model/Preferences.h"
 
 #include <QDir>
@@ -262,7 +263,7 @@ QString AppModel::typeTitle(const QString &slug) const
 QString AppModel::typeColorHex(const QString &slug) const
 {
     const std::optional<EventType> t = type(slug);
-    return t ? t->colorHex : u"#8E8E93"_s;
+    return t ? t->colorHex : Tints::hex(Tints::unknownType);
 }
 
 QUrl AppModel::baseURL() const
