@@ -10,16 +10,16 @@ Item {
 
     readonly property AboutModel about: Setup.about
 
-    implicitWidth: 360 + 2 * 28
-    implicitHeight: column.implicitHeight + 2 * 28
+    implicitWidth: 360 + 2 * Style.space4XL
+    implicitHeight: column.implicitHeight + 2 * Style.space4XL
 
     ColumnLayout {
         id: column
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: parent.top
-        anchors.topMargin: 28
+        anchors.topMargin: Style.space4XL
         width: 360
-        spacing: 10
+        spacing: Style.spaceL
 
         AppMark {
             Layout.alignment: Qt.AlignHCenter
@@ -35,7 +35,7 @@ Item {
             objectName: "versionLine"
             Layout.alignment: Qt.AlignHCenter
             text: root.about.versionLine
-            color: SystemColors.secondary
+            color: Style.secondary
         }
         Label {
             Layout.alignment: Qt.AlignHCenter
@@ -50,8 +50,8 @@ Item {
         }
         MenuSeparator {
             Layout.fillWidth: true
-            Layout.topMargin: 4
-            Layout.bottomMargin: 4
+            Layout.topMargin: Style.spaceXS
+            Layout.bottomMargin: Style.spaceXS
             padding: 0
         }
         AuthorCard {
@@ -67,7 +67,7 @@ Item {
             wrapMode: Text.WordWrap
             horizontalAlignment: Text.AlignHCenter
             font.pixelSize: Typography.caption
-            color: SystemColors.secondary
+            color: Style.secondary
         }
     }
 }

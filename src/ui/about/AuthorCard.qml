@@ -11,10 +11,10 @@ ColumnLayout {
     required property AboutModel about
 
     visible: about.madeBy.length > 0
-    spacing: 6
+    spacing: Style.spaceS
 
     RowLayout {
-        spacing: 6
+        spacing: Style.spaceS
         Icon {
             name: "person.crop.circle"
             size: 18
@@ -32,7 +32,7 @@ ColumnLayout {
         text: "Vibe coded with an AI assistant, one idea at a time."
         wrapMode: Text.WordWrap
         font.pixelSize: Typography.callout
-        color: SystemColors.secondary
+        color: Style.secondary
     }
     LinkRow {
         objectName: "authorLinks"

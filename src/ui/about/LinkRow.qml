@@ -4,7 +4,7 @@ import QtQuick.Controls
 import Quorvane.App
 import Quorvane.Components
 
-// Links side by side, 14 apart, in the accent colour; a click hands the address on.
+// Links side by side, in the accent colour; a click hands the address on.
 Row {
     id: root
 
@@ -12,7 +12,7 @@ Row {
 
     signal activated(url url)
 
-    spacing: 14
+    spacing: Style.spaceXXL
     visible: repeater.count > 0
 
     Repeater {
@@ -27,7 +27,7 @@ Row {
             textFormat: Text.PlainText
             font.pixelSize: Typography.callout
             font.underline: hover.hovered
-            color: SystemColors.accent
+            color: Style.accent
             Accessible.role: Accessible.Link
             Accessible.name: title
             Accessible.onPressAction: root.activated(link.url)

@@ -7,7 +7,7 @@ Item {
     id: host
 
     property bool shown: App.hasBanner
-    property int padding: 14 // above the banner and at both sides
+    property int padding: Style.spaceXXL // above the banner and at both sides
 
     readonly property int springDuration: Motion.springDuration(0.5, 1.0)
     readonly property var springCurve: Motion.spring(0.5, 1.0)

@@ -17,21 +17,21 @@ Rectangle {
     signal retry()
     signal dismiss()
 
-    implicitHeight: row.implicitHeight + 18
-    implicitWidth: row.implicitWidth + 28
-    radius: 10
-    color: Qt.rgba(tint.r, tint.g, tint.b, 0.12)
+    implicitHeight: row.implicitHeight + 2 * Style.spaceM
+    implicitWidth: row.implicitWidth + 2 * Style.spaceXXL
+    radius: Style.radiusL
+    color: Style.withAlpha(tint, 0.12)
     border.width: 1
-    border.color: Qt.rgba(tint.r, tint.g, tint.b, 0.25)
+    border.color: Style.withAlpha(tint, 0.25)
 
     RowLayout {
         id: row
         anchors.fill: parent
-        anchors.leftMargin: 14
-        anchors.rightMargin: 14
-        anchors.topMargin: 9
-        anchors.bottomMargin: 9
-        spacing: 10
+        anchors.leftMargin: Style.spaceXXL
+        anchors.rightMargin: Style.spaceXXL
+        anchors.topMargin: Style.spaceM
+        anchors.bottomMargin: Style.spaceM
+        spacing: Style.spaceL
 
         Icon {
             objectName: "bannerIcon"
@@ -59,7 +59,7 @@ Rectangle {
         ToolButton {
             objectName: "bannerClose"
             flat: true
-            icon.source: "image://icon/xmark?color=" + palette.buttonText.toString().substring(1)
+            icon.source: Style.icon("xmark", palette.buttonText)
             icon.width: 12
             icon.height: 12
             icon.color: "transparent"

@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import Quorvane.App
 
 // What a screen shows when it has nothing to show: a symbol, a title and a line of help,
 // and any buttons given as children below them.
@@ -14,21 +13,21 @@ Item {
     default property alias actions: actionRow.data
 
     implicitWidth: column.implicitWidth
-    implicitHeight: column.implicitHeight + 40
+    implicitHeight: column.implicitHeight + 2 * Style.space3XL
 
     ColumnLayout {
         id: column
         anchors.centerIn: parent
-        width: Math.min(root.width - 40, 380)
-        spacing: 8
+        width: Math.min(root.width - 2 * Style.space3XL, 380)
+        spacing: Style.spaceM
 
         Icon {
             Layout.alignment: Qt.AlignHCenter
-            Layout.bottomMargin: 4
+            Layout.bottomMargin: Style.spaceXS
             visible: root.symbol.length > 0
             name: root.symbol
             size: 36
-            color: SystemColors.secondary
+            color: Style.secondary
         }
         Label {
             objectName: "emptyTitle"
@@ -47,13 +46,13 @@ Item {
             text: root.description
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: SystemColors.secondary
+            color: Style.secondary
         }
         Row {
             id: actionRow
             Layout.alignment: Qt.AlignHCenter
-            Layout.topMargin: children.length > 0 ? 6 : 0
-            spacing: 8
+            Layout.topMargin: children.length > 0 ? Style.spaceS : 0
+            spacing: Style.spaceM
         }
     }
 }

@@ -13,6 +13,6 @@ Image {
     height: size
     sourceSize: Qt.size(size, size)
     fillMode: Image.PreserveAspectFit
-    source: name.length > 0 ? "image://icon/" + name + "?color=" + root.color.toString().substring(1) : ""
+    source: Style.icon(name, root.color)
     Accessible.ignored: true
 }

@@ -5,12 +5,12 @@ import QtQuick.Controls
 Label {
     id: root
 
-    property color tint: "#8E8E93"
+    property color tint: Style.secondary
 
-    leftPadding: 7
-    rightPadding: 7
-    topPadding: 2
-    bottomPadding: 2
+    leftPadding: Style.spaceS
+    rightPadding: Style.spaceS
+    topPadding: Style.spaceXXS
+    bottomPadding: Style.spaceXXS
     color: tint
     font.pixelSize: Typography.caption2
     font.weight: Font.DemiBold

@@ -22,7 +22,7 @@ Item {
     Column {
         id: column
         width: parent.width
-        spacing: 14
+        spacing: Style.spaceXXL
 
         Repeater {
             model: Math.max(0, root.rows)
@@ -30,13 +30,13 @@ Item {
             Row {
                 id: bars
                 required property int index
-                spacing: 12
+                spacing: Style.spaceXL
                 Accessible.ignored: true
 
                 Rectangle {
                     width: SkeletonMetrics.firstBarWidth(bars.index)
                     height: 12
-                    radius: 4
+                    radius: Style.radiusS
                     color: palette.mid
                     opacity: 0.6
                     anchors.verticalCenter: parent.verticalCenter
@@ -44,7 +44,7 @@ Item {
                 Rectangle {
                     width: SkeletonMetrics.secondBarWidth(bars.index)
                     height: 10
-                    radius: 4
+                    radius: Style.radiusS
                     color: palette.mid
                     opacity: 0.6
                     anchors.verticalCenter: parent.verticalCenter

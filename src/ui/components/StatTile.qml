@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import Quorvane.App
 
 // A counter on a card: a small labelled title with its symbol, and the value large below it.
 Rectangle {
@@ -10,13 +9,13 @@ Rectangle {
     property string title
     property string value
     property string symbol
-    property color tint: SystemColors.accent
+    property color tint: Style.accent
 
-    implicitWidth: column.implicitWidth + 28
-    implicitHeight: column.implicitHeight + 28
-    radius: 12
+    implicitWidth: column.implicitWidth + 2 * Style.spaceXXL
+    implicitHeight: column.implicitHeight + 2 * Style.spaceXXL
+    radius: Style.radiusXL
     color: palette.base
-    border.color: Qt.darker(palette.window, 1.08)
+    border.color: Style.hairline(palette.window)
     border.width: 1
 
     Accessible.role: Accessible.StaticText
@@ -25,15 +24,15 @@ Rectangle {
     ColumnLayout {
         id: column
         anchors.fill: parent
-        anchors.margins: 14
-        spacing: 6
+        anchors.margins: Style.spaceXXL
+        spacing: Style.spaceS
 
         RowLayout {
-            spacing: 5
+            spacing: Style.spaceXS
             Icon {
                 name: root.symbol
                 size: 12
-                color: SystemColors.secondary
+                color: Style.secondary
             }
             Label {
                 Layout.fillWidth: true
@@ -41,7 +40,7 @@ Rectangle {
                 textFormat: Text.PlainText
                 elide: Text.ElideRight
                 font.pixelSize: Typography.caption
-                color: SystemColors.secondary
+                color: Style.secondary
                 Accessible.ignored: true
             }
         }
@@ -57,10 +56,10 @@ Rectangle {
     Rectangle {
         anchors.top: parent.top
         anchors.right: parent.right
-        anchors.margins: 10
+        anchors.margins: Style.spaceL
         width: 8
         height: 8
-        radius: 4
+        radius: width / 2
         color: root.tint
         opacity: 0.18
     }

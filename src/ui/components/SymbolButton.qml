@@ -9,7 +9,7 @@ ToolButton {
     property color tint: palette.buttonText
     property int symbolSize: 16
 
-    icon.source: symbol.length > 0 ? "image://icon/" + symbol + "?color=" + tint.toString().substring(1) : ""
+    icon.source: Style.icon(symbol, tint)
     icon.width: symbolSize
     icon.height: symbolSize
     icon.color: "transparent" // the provider has drawn the colour already

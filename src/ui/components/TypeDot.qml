@@ -4,7 +4,7 @@ import QtQuick
 Rectangle {
     id: root
 
-    property color color: "#8E8E93"
+    property color color: Style.unknownType
     property int size: 10
 
     width: size

@@ -10,8 +10,8 @@ Rectangle {
 
     required property MainWindowModel frame
 
-    implicitHeight: row.implicitHeight + 16
-    radius: 10
+    implicitHeight: row.implicitHeight + 2 * Style.spaceM
+    radius: Style.radiusL
     color: Qt.rgba(1, 1, 1, 0.55)
     border.width: 1
     border.color: Qt.rgba(0, 0, 0, 0.06)
@@ -22,32 +22,32 @@ Rectangle {
     RowLayout {
         id: row
         anchors.fill: parent
-        anchors.margins: 8
-        spacing: 8
+        anchors.margins: Style.spaceM
+        spacing: Style.spaceM
 
         Rectangle {
             width: 26
             height: 26
-            radius: 13
+            radius: width / 2
             Accessible.ignored: true
             gradient: Gradient {
                 orientation: Gradient.Horizontal
-                GradientStop { position: 0.0; color: SystemColors.orange }
-                GradientStop { position: 1.0; color: SystemColors.pink }
+                GradientStop { position: 0.0; color: Style.orange }
+                GradientStop { position: 1.0; color: Style.pink }
             }
             Label {
                 objectName: "initials"
                 anchors.centerIn: parent
                 text: root.frame.initials
                 textFormat: Text.PlainText
-                color: "white"
+                color: Style.accentText
                 font.pixelSize: Typography.caption
                 font.bold: true
             }
         }
         ColumnLayout {
             Layout.fillWidth: true
-            spacing: 4
+            spacing: Style.spaceXS
             Label {
                 objectName: "accountName"
                 Layout.fillWidth: true
@@ -58,12 +58,12 @@ Rectangle {
                 font.weight: Font.DemiBold
             }
             RowLayout {
-                spacing: 5
+                spacing: Style.spaceXS
                 Rectangle {
                     objectName: "statusDot"
                     width: 6
                     height: 6
-                    radius: 3
+                    radius: width / 2
                     color: root.frame.statusColor
                 }
                 Label {
@@ -72,7 +72,7 @@ Rectangle {
                     text: root.frame.statusText
                     elide: Text.ElideRight
                     font.pixelSize: Typography.caption2
-                    color: SystemColors.secondary
+                    color: Style.secondary
                 }
             }
         }

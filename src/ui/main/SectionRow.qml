@@ -24,8 +24,8 @@ ItemDelegate {
     highlighted: selected
     focusPolicy: Qt.NoFocus
     implicitHeight: 28
-    leftPadding: 8
-    rightPadding: 8
+    leftPadding: Style.spaceM
+    rightPadding: Style.spaceM
     topPadding: 0
     bottomPadding: 0
     onClicked: activated(sectionId)
@@ -36,36 +36,35 @@ ItemDelegate {
     Accessible.selected: selected
 
     background: Rectangle {
-        radius: 6
-        color: row.selected ? SystemColors.accent
-                            : row.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent"
+        radius: Style.radiusM
+        color: row.selected ? Style.accent : row.hovered ? Style.hoverFill : "transparent"
     }
 
     contentItem: RowLayout {
-        spacing: 8
+        spacing: Style.spaceM
         Icon {
             name: row.symbol
             size: 15
-            color: row.selected ? "white" : SystemColors.accent
+            color: row.selected ? Style.accentText : Style.accent
         }
         Label {
             Layout.fillWidth: true
             text: row.title
             textFormat: Text.PlainText
             elide: Text.ElideRight
-            color: row.selected ? "white" : palette.windowText
+            color: row.selected ? Style.accentText : palette.windowText
         }
         Label {
             objectName: "badge"
             visible: row.badge > 0
             text: row.badge
-            leftPadding: 6
-            rightPadding: 6
-            topPadding: 1
-            bottomPadding: 1
+            leftPadding: Style.spaceS
+            rightPadding: Style.spaceS
+            topPadding: Style.spaceXXS
+            bottomPadding: Style.spaceXXS
             font.pixelSize: Typography.caption
             font.weight: Font.DemiBold
-            color: row.selected ? "white" : SystemColors.secondary
+            color: row.selected ? Style.accentText : Style.secondary
             Accessible.name: qsTr("%n item(s)", "", row.badge)
             background: Rectangle {
                 radius: height / 2

@@ -17,27 +17,27 @@ OnboardingStep {
     }
     ColumnLayout {
         Layout.fillWidth: true
-        spacing: 8
+        spacing: Style.spaceM
 
         SymbolLabel {
             Layout.fillWidth: true
             text: root.guide.paletteTip
             symbol: "command"
-            color: SystemColors.secondary
+            color: Style.secondary
             pixelSize: Typography.callout
         }
         SymbolLabel {
             Layout.fillWidth: true
             text: root.guide.shareTip
             symbol: "paperplane"
-            color: SystemColors.secondary
+            color: Style.secondary
             pixelSize: Typography.callout
         }
         SymbolLabel {
             Layout.fillWidth: true
             text: "The tray shows your next meeting"
             symbol: "menubar.rectangle"
-            color: SystemColors.secondary
+            color: Style.secondary
             pixelSize: Typography.callout
         }
     }

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Quorvane.App
+import Quorvane.Components
 
 // One page of the first-run guide: a column at the top of the page, visible while its step is
 // the current one, fading in and out as the step changes.
@@ -26,6 +27,6 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        spacing: 14
+        spacing: Style.spaceXXL
     }
 }

@@ -3,6 +3,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 import Quorvane.App
+import Quorvane.Components
 
 // The first-run guide: four steps, then "Get Started" marks it done and closes its window.
 // Closing the window any other way leaves it to show again at the next launch.
@@ -43,8 +44,8 @@ Item {
 
     ColumnLayout {
         anchors.fill: parent
-        anchors.margins: 32
-        spacing: 18
+        anchors.margins: Style.space5XL
+        spacing: Style.space3XL
 
         // Each step fades in as the one before fades out.
         Item {
@@ -74,7 +75,7 @@ Item {
 
         RowLayout {
             Layout.fillWidth: true
-            spacing: 8
+            spacing: Style.spaceM
 
             StepDots {
                 step: root.guide.step

@@ -13,7 +13,7 @@ ColumnLayout {
     readonly property DeviceSignIn auth: Setup.createSignIn(root)
     readonly property int phase: auth.phase
 
-    spacing: 10
+    spacing: Style.spaceL
 
     // Signed in: the window the user signed in from comes to the front, over the browser.
     Connections {
@@ -32,18 +32,18 @@ ColumnLayout {
         objectName: "idlePart"
         Layout.fillWidth: true
         visible: root.phase === SignInPhase.Idle || root.phase === SignInPhase.Starting
-        spacing: 10
+        spacing: Style.spaceL
 
         Button {
             objectName: "signInButton"
             Layout.fillWidth: true
             Layout.preferredHeight: 38
             text: "Sign in with your Quorvane account"
-            icon.source: "image://icon/person.badge.key"
-            icon.color: "white"
+            icon.source: Style.icon("person.badge.key", Style.accentText)
+            icon.color: "transparent" // the provider has drawn the colour already
             // The one prominent control on the panel: filled in the accent colour.
-            palette.button: SystemColors.accent
-            palette.buttonText: "white"
+            palette.button: Style.accent
+            palette.buttonText: Style.accentText
             highlighted: true
             enabled: root.phase !== SignInPhase.Starting
             onClicked: Setup.begin(root.auth)
@@ -53,7 +53,7 @@ ColumnLayout {
             text: "Opens your browser. Sign in with Google and approve this computer. The token is stored in your system keyring."
             wrapMode: Text.WordWrap
             font.pixelSize: Typography.caption
-            color: SystemColors.secondary
+            color: Style.secondary
         }
     }
 
@@ -62,7 +62,7 @@ ColumnLayout {
         objectName: "waitingPart"
         Layout.fillWidth: true
         visible: root.phase === SignInPhase.Waiting
-        spacing: 10
+        spacing: Style.spaceL
 
         Label {
             text: "Confirm this code in your browser:"
@@ -84,18 +84,18 @@ ColumnLayout {
             Accessible.name: Setup.spokenCode(root.auth.code)
         }
         RowLayout {
-            spacing: 8
+            spacing: Style.spaceM
             Button {
                 objectName: "openAgainButton"
-                leftPadding: 12
-                rightPadding: 12
+                leftPadding: Style.spaceXL
+                rightPadding: Style.spaceXL
                 text: "Open Browser Again"
                 onClicked: Setup.openAgain(root.auth)
             }
             Button {
                 objectName: "cancelButton"
-                leftPadding: 12
-                rightPadding: 12
+                leftPadding: Style.spaceXL
+                rightPadding: Style.spaceXL
                 text: "Cancel"
                 onClicked: root.auth.cancel()
             }
@@ -112,7 +112,7 @@ ColumnLayout {
         visible: root.phase === SignInPhase.Done
         text: "Signed in"
         symbol: "checkmark.circle.fill"
-        color: SystemColors.green
+        color: Style.green
     }
 
     // The flow ended without a token; its message is shown as it came.
@@ -120,14 +120,14 @@ ColumnLayout {
         objectName: "failedPart"
         Layout.fillWidth: true
         visible: root.phase === SignInPhase.Failed
-        spacing: 10
+        spacing: Style.spaceL
 
         SymbolLabel {
             objectName: "failureMessage"
             Layout.fillWidth: true
             text: root.auth.message
             symbol: "exclamationmark.triangle.fill"
-            color: SystemColors.orange
+            color: Style.orange
         }
         Button {
             objectName: "tryAgainButton"

@@ -20,7 +20,7 @@ OnboardingStep {
         visible: Setup.signedInLabel.length > 0
         text: Setup.signedInLabel
         symbol: "checkmark.circle.fill"
-        color: SystemColors.green
+        color: Style.green
     }
     SignInPanel {
         objectName: "signInPanel"

@@ -1,5 +1,5 @@
 import QtQuick
-import Quorvane.App
+import Quorvane.Components
 
 // One dot per step, the current one in the accent colour; read out as "Step 2 of 4".
 Row {
@@ -9,7 +9,7 @@ Row {
     property int steps
     property string label
 
-    spacing: 6
+    spacing: Style.spaceS
     Accessible.role: Accessible.Indicator
     Accessible.name: root.label
 
@@ -19,8 +19,8 @@ Row {
             required property int index
             width: 7
             height: 7
-            radius: 3.5
-            color: index === root.step ? SystemColors.accent : SystemColors.secondary
+            radius: width / 2
+            color: index === root.step ? Style.accent : Style.secondary
             opacity: index === root.step ? 1 : 0.3
             Accessible.ignored: true
         }

@@ -12,13 +12,13 @@ RowLayout {
     property color color: palette.windowText
     property int pixelSize: Typography.body
 
-    spacing: 6
+    spacing: Style.spaceS
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
 
     Icon {
         Layout.alignment: Qt.AlignTop
-        Layout.topMargin: 1
+        Layout.topMargin: 1 // sets the symbol on the first line's capitals, not a space
         name: root.symbol
         size: root.pixelSize + 3
         color: root.color

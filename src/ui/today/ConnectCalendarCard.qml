@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import Quorvane.App
 import Quorvane.Components
 
 // Asks the host to connect Google Calendar, without which the booking page can't go live.
@@ -10,26 +9,26 @@ Rectangle {
 
     signal connect()
 
-    implicitHeight: row.implicitHeight + 32
-    radius: 14
-    color: Qt.rgba(SystemColors.orange.r, SystemColors.orange.g, SystemColors.orange.b, 0.08)
+    implicitHeight: row.implicitHeight + 2 * Style.spaceXXL
+    radius: Style.radiusXL
+    color: Style.withAlpha(Style.orange, 0.08)
     border.width: 1
-    border.color: Qt.rgba(SystemColors.orange.r, SystemColors.orange.g, SystemColors.orange.b, 0.3)
+    border.color: Style.withAlpha(Style.orange, 0.3)
 
     RowLayout {
         id: row
         anchors.fill: parent
-        anchors.margins: 16
-        spacing: 14
+        anchors.margins: Style.spaceXXL
+        spacing: Style.spaceXXL
 
         Icon {
             name: "calendar.badge.exclamationmark"
             size: 26
-            color: SystemColors.orange
+            color: Style.orange
         }
         ColumnLayout {
             Layout.fillWidth: true
-            spacing: 3
+            spacing: Style.spaceXXS
             Label {
                 text: qsTr("Connect Google Calendar")
                 font.pixelSize: Typography.headline
@@ -39,7 +38,7 @@ Rectangle {
                 Layout.fillWidth: true
                 text: qsTr("Your booking page goes live once Quorvane can see your free/busy times.")
                 wrapMode: Text.WordWrap
-                color: SystemColors.secondary
+                color: Style.secondary
             }
         }
         ProminentButton {

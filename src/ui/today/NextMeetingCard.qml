@@ -18,11 +18,11 @@ Rectangle {
 
     implicitWidth: (card.hasBooking ? meeting.implicitWidth : nothing.implicitWidth) + 2 * padding
     implicitHeight: (card.hasBooking ? meeting.implicitHeight : nothing.implicitHeight) + 2 * padding
-    readonly property int padding: compact ? 12 : 18
-    radius: 14
-    color: Qt.rgba(palette.base.r, palette.base.g, palette.base.b, 0.85)
+    readonly property int padding: compact ? Style.spaceXL : Style.space3XL
+    radius: Style.radiusXL
+    color: Style.withAlpha(palette.base, 0.85)
     border.width: 1
-    border.color: Qt.darker(palette.window, 1.08)
+    border.color: Style.hairline(palette.window)
 
     NextMeetingCardModel {
         id: cardModel
@@ -44,13 +44,13 @@ Rectangle {
         visible: root.card.hasBooking
         anchors.fill: parent
         anchors.margins: root.padding
-        spacing: 14
+        spacing: Style.spaceXXL
 
         Rectangle {
             objectName: "typeBar"
             Layout.preferredWidth: 5
             Layout.fillHeight: true
-            radius: 3
+            radius: width / 2
             gradient: Gradient {
                 GradientStop { position: 0.0; color: Qt.lighter(root.card.color, 1.25) }
                 GradientStop { position: 1.0; color: root.card.color }
@@ -58,14 +58,14 @@ Rectangle {
         }
         ColumnLayout {
             Layout.fillWidth: true
-            spacing: 4
+            spacing: Style.spaceXS
             Label {
                 objectName: "caption"
                 text: root.card.caption
                 textFormat: Text.PlainText
                 font.pixelSize: Typography.caption2
                 font.bold: true
-                color: root.card.isNow ? SystemColors.green : SystemColors.secondary
+                color: root.card.isNow ? Style.green : Style.secondary
             }
             Label {
                 objectName: "headline"
@@ -88,7 +88,7 @@ Rectangle {
                 wrapMode: root.compact ? Text.Wrap : Text.NoWrap
                 maximumLineCount: root.compact ? 2 : 1
                 font.pixelSize: Typography.callout
-                color: SystemColors.secondary
+                color: Style.secondary
             }
         }
         ProminentButton {
@@ -98,8 +98,8 @@ Rectangle {
             text: qsTr("Join Meet")
             symbol: "video.fill"
             font.pixelSize: root.compact ? Typography.callout : Typography.body
-            leftPadding: root.compact ? 8 : 12
-            rightPadding: root.compact ? 8 : 12
+            leftPadding: root.compact ? Style.spaceM : Style.spaceXL
+            rightPadding: root.compact ? Style.spaceM : Style.spaceXL
             onClicked: root.card.join()
             Accessible.name: root.card.joinName
             ToolTip.visible: hovered
@@ -121,13 +121,13 @@ Rectangle {
         visible: !root.card.hasBooking
         anchors.centerIn: parent
         width: parent.width - 2 * root.padding
-        spacing: 6
+        spacing: Style.spaceS
 
         Icon {
             Layout.alignment: Qt.AlignHCenter
             name: "calendar.badge.checkmark"
             size: root.compact ? 22 : 28
-            color: SystemColors.secondary
+            color: Style.secondary
         }
         Label {
             Layout.alignment: Qt.AlignHCenter
@@ -141,7 +141,7 @@ Rectangle {
             text: qsTr("New bookings show up here automatically.")
             wrapMode: Text.WordWrap
             font.pixelSize: Typography.callout
-            color: SystemColors.secondary
+            color: Style.secondary
         }
     }
 }

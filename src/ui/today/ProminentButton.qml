@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls
-import Quorvane.App
+import Quorvane.Components
 
 // The one action a card leads to, filled with the accent colour.
 Button {
@@ -8,11 +8,11 @@ Button {
 
     property string symbol
 
-    palette.button: SystemColors.accent
-    palette.buttonText: "white"
+    palette.button: Style.accent
+    palette.buttonText: Style.accentText
     font.weight: Font.DemiBold
-    icon.source: symbol.length > 0 ? "image://icon/" + symbol + "?color=ffffff" : ""
+    icon.source: Style.icon(symbol, Style.accentText)
     icon.width: 14
     icon.height: 14
-    icon.color: "transparent" // drawn white by the provider
+    icon.color: "transparent" // the provider has drawn the colour already
 }

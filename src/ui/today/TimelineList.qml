@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Quorvane.App
+import Quorvane.Components
 
 // The day's bookings, one row each, in the model's order.
 Column {
@@ -8,7 +9,7 @@ Column {
 
     required property TimelineModel timeline
 
-    spacing: 8
+    spacing: Style.spaceM
 
     Repeater {
         model: root.timeline

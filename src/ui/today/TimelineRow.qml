@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import Quorvane.App
 import Quorvane.Components
 
 // One booking of the day: its time, a marker on the day's line, who and what, and a way to
@@ -30,7 +29,7 @@ Item {
     RowLayout {
         id: content
         anchors.fill: parent
-        spacing: 10
+        spacing: Style.spaceL
 
         Label {
             Layout.preferredWidth: 70
@@ -38,7 +37,7 @@ Item {
             text: row.time
             textFormat: Text.PlainText
             font.pixelSize: Typography.callout
-            color: SystemColors.secondary
+            color: Style.secondary
             Accessible.ignored: true
         }
         Item {
@@ -48,8 +47,7 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: 1
                 height: parent.height
-                color: palette.windowText
-                opacity: 0.12
+                color: Style.rule(palette.windowText)
             }
             Rectangle {
                 objectName: "marker"
@@ -57,14 +55,14 @@ Item {
                 y: 4
                 width: 9
                 height: 9
-                radius: 4.5
-                color: row.live ? SystemColors.green : row.typeColor
+                radius: width / 2
+                color: row.live ? Style.green : row.typeColor
             }
         }
         ColumnLayout {
             Layout.fillWidth: true
             Layout.alignment: Qt.AlignTop
-            spacing: 2
+            spacing: Style.spaceXXS
             Label {
                 Layout.fillWidth: true
                 text: row.name
@@ -80,7 +78,7 @@ Item {
                 textFormat: Text.PlainText
                 elide: Text.ElideRight
                 font.pixelSize: Typography.caption
-                color: SystemColors.secondary
+                color: Style.secondary
                 Accessible.ignored: true
             }
         }
@@ -90,10 +88,10 @@ Item {
             visible: row.showsJoin
             text: qsTr("Join")
             font.pixelSize: Typography.caption
-            topPadding: 2
-            bottomPadding: 2
-            leftPadding: 10
-            rightPadding: 10
+            topPadding: Style.spaceXXS
+            bottomPadding: Style.spaceXXS
+            leftPadding: Style.spaceL
+            rightPadding: Style.spaceL
             implicitHeight: 22
             implicitWidth: implicitContentWidth + leftPadding + rightPadding
             onClicked: row.join(row.index)

@@ -22,14 +22,14 @@ ScrollView {
 
     Item {
         width: root.availableWidth
-        implicitHeight: (App.firstLoadDone ? stack.implicitHeight : skeleton.implicitHeight) + 40
+        implicitHeight: (App.firstLoadDone ? stack.implicitHeight : skeleton.implicitHeight) + 2 * Style.space3XL
 
         SkeletonList {
             id: skeleton
             objectName: "todaySkeleton"
             visible: !App.firstLoadDone
             x: stack.x
-            y: 20
+            y: Style.space3XL
             width: stack.width
             rows: 4
         }
@@ -37,10 +37,10 @@ ScrollView {
         ColumnLayout {
             id: stack
             visible: App.firstLoadDone
-            width: Math.min(900, parent.width - 40)
+            width: Math.min(900, parent.width - 2 * Style.space3XL)
             x: (parent.width - width) / 2
-            y: 20
-            spacing: 20
+            y: Style.space3XL
+            spacing: Style.space3XL
 
             NextMeetingCard {
                 objectName: "nextMeetingCard"
@@ -50,7 +50,7 @@ ScrollView {
 
             RowLayout {
                 Layout.fillWidth: true
-                spacing: 12
+                spacing: Style.spaceXL
                 StatTile {
                     objectName: "todayTile"
                     Layout.fillWidth: true
@@ -58,7 +58,7 @@ ScrollView {
                     title: qsTr("Today")
                     value: today.todayCount
                     symbol: "sun.max"
-                    tint: SystemColors.orange
+                    tint: Style.orange
                 }
                 StatTile {
                     objectName: "weekTile"
@@ -67,7 +67,7 @@ ScrollView {
                     title: qsTr("This week")
                     value: today.weekCount
                     symbol: "calendar"
-                    tint: SystemColors.blue
+                    tint: Style.blue
                 }
                 StatTile {
                     objectName: "pollsTile"
@@ -76,13 +76,13 @@ ScrollView {
                     title: qsTr("Open polls")
                     value: today.openPollsCount
                     symbol: "chart.bar.doc.horizontal"
-                    tint: SystemColors.purple
+                    tint: Style.purple
                 }
             }
 
             ColumnLayout {
                 Layout.fillWidth: true
-                spacing: 10
+                spacing: Style.spaceL
                 Label {
                     text: qsTr("Today's timeline")
                     font.pixelSize: Typography.headline

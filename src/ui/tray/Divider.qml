@@ -1,7 +1,7 @@
 import QtQuick
+import Quorvane.Components
 
 Rectangle {
     implicitHeight: 1
-    color: palette.windowText
-    opacity: 0.12
+    color: Style.rule(palette.windowText)
 }

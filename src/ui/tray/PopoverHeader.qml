@@ -9,7 +9,7 @@ RowLayout {
 
     property string date
 
-    spacing: 8
+    spacing: Style.spaceM
 
     AppMark {
         size: 22
@@ -25,7 +25,7 @@ RowLayout {
             objectName: "popoverDate"
             text: root.date
             font.pixelSize: Typography.caption
-            color: SystemColors.secondary
+            color: Style.secondary
         }
     }
     Item { Layout.fillWidth: true }

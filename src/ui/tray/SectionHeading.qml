@@ -6,5 +6,5 @@ import Quorvane.Components
 Label {
     font.pixelSize: Typography.caption
     font.weight: Font.DemiBold
-    color: SystemColors.secondary
+    color: Style.secondary
 }
