@@ -3,6 +3,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 import Quorvane.App
+import Quorvane.Components
 
 // The main window's menus, File, Go and Help, read from the command table. Each command's
 // action lives here from the start, so its key works whether or not a menu was ever opened;
@@ -27,7 +28,7 @@ MenuBar {
         readonly property string keys: action && action.command ? action.command.shortcutText : ""
 
         contentItem: RowLayout {
-            spacing: 24
+            spacing: Style.space4XL
             opacity: item.enabled ? 1 : 0.45
 
             Label {

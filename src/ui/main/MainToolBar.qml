@@ -21,9 +21,9 @@ ToolBar {
 
     RowLayout {
         anchors.fill: parent
-        anchors.leftMargin: 6
-        anchors.rightMargin: 6
-        spacing: 2
+        anchors.leftMargin: Style.spaceS
+        anchors.rightMargin: Style.spaceS
+        spacing: Style.spaceXXS
 
         SymbolButton {
             objectName: "sidebarToggle"
@@ -39,11 +39,11 @@ ToolBar {
         }
         Label {
             objectName: "subtitle"
-            Layout.rightMargin: 10
+            Layout.rightMargin: Style.spaceL
             text: root.subtitle
             textFormat: Text.PlainText
             font.pixelSize: Typography.caption
-            color: SystemColors.secondary
+            color: Style.secondary
         }
         SymbolButton {
             objectName: "quickShareButton"
@@ -87,7 +87,7 @@ ToolBar {
                 visible: App.loading
             }
             // The spinner stands in for the symbol while a refresh runs.
-            icon.source: App.loading ? "" : "image://icon/arrow.clockwise?color=" + palette.buttonText.toString().substring(1)
+            icon.source: App.loading ? "" : Style.icon("arrow.clockwise", palette.buttonText)
         }
     }
 }

@@ -40,7 +40,7 @@ ApplicationWindow {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: 1
                 height: parent.height
-                color: Qt.darker(palette.window, 1.15)
+                color: Style.separator(palette.window)
             }
         }
 

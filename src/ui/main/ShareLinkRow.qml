@@ -17,8 +17,8 @@ ItemDelegate {
     signal copy(int row)
 
     implicitHeight: 28
-    leftPadding: 10
-    rightPadding: 8
+    leftPadding: Style.spaceL
+    rightPadding: Style.spaceM
     topPadding: 0
     bottomPadding: 0
     focusPolicy: Qt.NoFocus
@@ -31,12 +31,12 @@ ItemDelegate {
     Accessible.name: accessibleName
 
     background: Rectangle {
-        radius: 6
-        color: row.down ? Qt.rgba(0, 0, 0, 0.09) : row.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent"
+        radius: Style.radiusM
+        color: row.down ? Style.pressFill : row.hovered ? Style.hoverFill : "transparent"
     }
 
     contentItem: RowLayout {
-        spacing: 8
+        spacing: Style.spaceM
         TypeDot {
             color: row.typeColor
             size: 9
@@ -50,7 +50,7 @@ ItemDelegate {
         Icon {
             name: "link"
             size: 11
-            color: Qt.rgba(0.56, 0.56, 0.58, 0.7)
+            color: Style.withAlpha(Style.secondary, 0.7)
         }
     }
 }

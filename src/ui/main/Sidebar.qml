@@ -36,7 +36,7 @@ Rectangle {
             ColumnLayout {
                 id: list
                 width: scroller.availableWidth
-                spacing: 1
+                spacing: Style.spaceXXS
                 focus: true
                 Accessible.role: Accessible.List
                 Accessible.name: qsTr("Sections")
@@ -49,8 +49,8 @@ Rectangle {
                     model: sections
                     SectionRow {
                         Layout.fillWidth: true
-                        Layout.leftMargin: 8
-                        Layout.rightMargin: 8
+                        Layout.leftMargin: Style.spaceM
+                        Layout.rightMargin: Style.spaceM
                         onActivated: section => {
                             App.section = section
                             list.forceActiveFocus() // the arrow keys walk on from here
@@ -61,13 +61,13 @@ Rectangle {
                 Label {
                     objectName: "shareLinksHeading"
                     visible: shareLinks.count > 0
-                    Layout.topMargin: 14
-                    Layout.leftMargin: 16
-                    Layout.bottomMargin: 2
+                    Layout.topMargin: Style.spaceXXL
+                    Layout.leftMargin: 2 * Style.spaceM // in line with the rows' symbols: their margin and padding
+                    Layout.bottomMargin: Style.spaceXXS
                     text: qsTr("Share links")
                     font.pixelSize: Typography.caption
                     font.bold: true
-                    color: SystemColors.secondary
+                    color: Style.secondary
                     Accessible.role: Accessible.Heading
                 }
                 Repeater {
@@ -75,8 +75,8 @@ Rectangle {
                     model: shareLinks
                     ShareLinkRow {
                         Layout.fillWidth: true
-                        Layout.leftMargin: 8
-                        Layout.rightMargin: 8
+                        Layout.leftMargin: Style.spaceM
+                        Layout.rightMargin: Style.spaceM
                         onCopy: row => shareLinks.copyLink(row)
                     }
                 }
@@ -87,7 +87,7 @@ Rectangle {
         AccountFooter {
             objectName: "accountFooter"
             Layout.fillWidth: true
-            Layout.margins: 10
+            Layout.margins: Style.spaceL
             frame: root.frame
         }
     }

@@ -12,7 +12,7 @@ Item {
     ColumnLayout {
         anchors.centerIn: parent
         width: Math.min(root.width - 80, 460)
-        spacing: 18
+        spacing: Style.space3XL
 
         AppMark {
             Layout.alignment: Qt.AlignHCenter
@@ -31,7 +31,7 @@ Item {
             Layout.preferredWidth: 380
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
-            color: SystemColors.secondary
+            color: Style.secondary
             text: qsTr("Connect this computer to your Quorvane account to see bookings, edit availability and share times.")
         }
         SignInSlot {

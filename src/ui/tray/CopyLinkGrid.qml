@@ -32,8 +32,8 @@ GridLayout {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             implicitHeight: 28
-            leftPadding: 8
-            rightPadding: 8
+            leftPadding: Style.spaceM
+            rightPadding: Style.spaceM
             topPadding: 0
             bottomPadding: 0
             focusPolicy: Qt.NoFocus
@@ -42,11 +42,11 @@ GridLayout {
             Accessible.name: shortAccessibleName
 
             background: Rectangle {
-                radius: 6
-                color: link.down ? Qt.rgba(0, 0, 0, 0.09) : link.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent"
+                radius: Style.radiusM
+                color: link.down ? Style.pressFill : link.hovered ? Style.hoverFill : "transparent"
             }
             contentItem: RowLayout {
-                spacing: 6
+                spacing: Style.spaceS
                 TypeDot {
                     color: link.typeColor
                     size: 8
@@ -61,7 +61,7 @@ GridLayout {
                 Label {
                     text: link.minutes
                     font.pixelSize: Typography.caption
-                    color: SystemColors.secondary
+                    color: Style.secondary
                 }
             }
         }

@@ -47,14 +47,14 @@ Window {
         anchors.fill: parent
         color: "transparent"
         border.width: 1
-        border.color: Qt.darker(palette.window, 1.25)
+        border.color: Style.windowEdge(palette.window)
     }
 
     ColumnLayout {
         id: content
         anchors.fill: parent
-        anchors.margins: 14
-        spacing: 12
+        anchors.margins: Style.spaceXXL
+        spacing: Style.spaceXL
 
         PopoverHeader {
             Layout.fillWidth: true
@@ -72,7 +72,7 @@ Window {
             objectName: "signedInContent"
             Layout.fillWidth: true
             visible: !bar.showsSignIn
-            spacing: 12
+            spacing: Style.spaceXL
 
             // Failures only: a toast shows as the green line further down.
             BannerHost {
@@ -93,13 +93,13 @@ Window {
             TimelineList {
                 objectName: "popoverTimeline"
                 Layout.fillWidth: true
-                Layout.topMargin: -6
+                Layout.topMargin: -Style.spaceS
                 visible: timeline.count > 0
                 timeline: timeline
             }
             Label {
                 objectName: "noMeetingsToday"
-                Layout.topMargin: -6
+                Layout.topMargin: -Style.spaceS
                 visible: timeline.count === 0
                 text: qsTr("No meetings today 🎉")
                 font.pixelSize: Typography.callout
@@ -113,14 +113,14 @@ Window {
             }
             CopyLinkGrid {
                 Layout.fillWidth: true
-                Layout.topMargin: -6
+                Layout.topMargin: -Style.spaceS
             }
 
             Button {
                 objectName: "shareTimes"
                 Layout.fillWidth: true
                 text: qsTr("Share times…")
-                icon.source: "image://icon/paperplane.fill?color=" + palette.buttonText.toString().substring(1)
+                icon.source: Style.icon("paperplane.fill", palette.buttonText)
                 icon.color: "transparent"
                 onClicked: popover.open(AppWindow.Share)
             }
@@ -133,7 +133,7 @@ Window {
                 textFormat: Text.PlainText
                 wrapMode: Text.WordWrap
                 font.pixelSize: Typography.caption
-                color: SystemColors.green
+                color: Style.green
             }
         }
 

@@ -16,13 +16,13 @@ RowLayout {
 
     signal openWindow(int window)
 
-    spacing: 2
+    spacing: Style.spaceXXS
 
     Button {
         objectName: "openMain"
         flat: true
         text: root.openMain.title
-        icon.source: "image://icon/" + root.openMain.symbol + "?color=" + palette.buttonText.toString().substring(1)
+        icon.source: Style.icon(root.openMain.symbol, palette.buttonText)
         icon.color: "transparent"
         onClicked: root.openWindow(AppWindow.Main)
     }
