@@ -1,5 +1,7 @@
 // Builds the application's objects, wires them together and loads the QML. Nothing else.
+#include "Formats.h"
 #include "NetworkTransport.h"
+#include "SnapshotCache.h"
 #include "SystemClipboard.h"
 #include "SystemClock.h"
 #include "UrlOpener.h"
@@ -26,6 +28,7 @@
 #include <QDBusConnection>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QLocale>
 #include <QNetworkAccessManager>
@@ -36,6 +39,7 @@
 #include <QTimeZone>
 
 #include <cstdio>
+#include <future>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -63,6 +67,19 @@ int main(int argc, char *argv[])
     if (!options.selfTest && instance.handOver(options.window))
         return 0;
 
+    // The saved data is decoded on another thread while the rest starts up: it is the longest
+    // single step of a start, and the model needs it only once the interface is about to load.
+    const QString dataDirectory =
+        QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath(u"Quorvane"_s);
+    std::shared_future<std::optional<Snapshot>> saved =
+        std::async(std::launch::async, [path = AppModel::cachePath(dataDirectory)] {
+            return SnapshotCache(path).load();
+        }).share();
+
+    const QString locale = QLocale::system().name();
+    // The locale's date patterns, which the first screen needs, are worked out meanwhile too.
+    const std::future<void> patterns = std::async(std::launch::async, [locale] { Formats::pattern(u"jmm"_s, locale); });
+
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Quorvane"_s, u"Quorvane"_s);
     Preferences preferences(settings);
     if (options.server)
@@ -70,7 +87,6 @@ int main(int argc, char *argv[])
     SystemClock clock;
     QNetworkAccessManager network;
     LibsecretStore secrets;
-    const QString locale = QLocale::system().name();
     const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
     FreedesktopNotifier notifier(QDBusConnection::sessionBus(), clock, locale, zone);
     Login1WakeMonitor wake(QDBusConnection::systemBus());
@@ -87,10 +103,12 @@ int main(int argc, char *argv[])
     env.opener = &opener;
     env.clipboard = &clipboard;
     env.wake = &wake;
-    env.dataDirectory =
-        QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath(u"Quorvane"_s);
+    env.dataDirectory = dataDirectory;
+    env.savedSnapshot = saved;
     env.locale = locale;
     env.zone = zone;
+    // Meanwhile, the font database: the first text drawn would otherwise wait for it.
+    QFontDatabase::families();
     AppModel model(env);
     SetupServices setup(model, env, loginItem);
     ShellController shell;

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "Snapshot.h"
+
 #include <QString>
 
 #include <chrono>
+#include <future>
 #include <memory>
+#include <optional>
 
 namespace quorvane {
 
@@ -34,8 +38,11 @@ struct AppEnvironment {
     Clipboard *clipboard = nullptr;
     WakeMonitor *wake = nullptr; // optional: no wake refresh without it
     QString dataDirectory;       // $XDG_DATA_HOME/Quorvane; never created by the model itself
-    QString locale;              // ICU locale name, such as "en_US"
-    QString zone;                // IANA zone of the user, such as "Europe/Berlin"
+    // The saved snapshot, where the caller started reading it already (main.cpp does, so that
+    // decoding it overlaps the rest of the start); without it the model reads the file itself.
+    std::shared_future<std::optional<Snapshot>> savedSnapshot;
+    QString locale; // ICU locale name, such as "en_US"
+    QString zone;   // IANA zone of the user, such as "Europe/Berlin"
     Timings timings;
 };
 

@@ -34,13 +34,13 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
     : QObject(parent)
     , m_env(std::move(environment))
     , m_keychain(*m_env.secrets)
-    , m_cache(QDir(m_env.dataDirectory).filePath(cacheFileName))
+    , m_cache(cachePath(m_env.dataDirectory))
     , m_tracker(distantPast())
 {
     Q_ASSERT(m_env.clock && m_env.transport && m_env.secrets && m_env.notifier && m_env.preferences && m_env.opener
              && m_env.clipboard);
     m_needsSignIn = !signedInNow();
-    m_snapshot = m_cache.load().value_or(Snapshot());
+    m_snapshot = (m_env.savedSnapshot.valid() ? m_env.savedSnapshot.get() : m_cache.load()).value_or(Snapshot());
 
     QFile trackerFile(trackerPath());
     if (trackerFile.open(QIODevice::ReadOnly)) {
@@ -56,6 +56,11 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
     connect(this, &AppModel::ticked, this, &AppModel::nextChanged);
     m_timer.setInterval(m_env.timings.tick);
     connect(&m_timer, &QTimer::timeout, this, [this] { run(tick()); });
+}
+
+QString AppModel::cachePath(const QString &dataDirectory)
+{
+    return QDir(dataDirectory).filePath(cacheFileName);
 }
 
 AppModel::~AppModel()

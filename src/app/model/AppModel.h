@@ -61,6 +61,8 @@ public:
     Q_ENUM(BannerKind)
 
     explicit AppModel(AppEnvironment environment, QObject *parent = nullptr);
+    // Where the saved snapshot of a data directory lives.
+    [[nodiscard]] static QString cachePath(const QString &dataDirectory);
     ~AppModel() override;
 
     // --- state ---

@@ -3,6 +3,7 @@
 #include "ICUBridge.h"
 
 #include <QHash>
+#include <QMutex>
 
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
@@ -44,13 +45,22 @@ UDate toUDate(const Instant &instant)
 
 } // namespace
 
+// A pattern generator takes milliseconds to build, so each locale gets one for the process,
+// shared between threads behind a lock (a generator is not safe to use from two at once).
 QString pattern(const QString &skeleton, const QString &locale)
 {
+    static QMutex lock;
+    static QHash<QString, std::shared_ptr<icu::DateTimePatternGenerator>> generators;
+    const QMutexLocker locked(&lock);
+    std::shared_ptr<icu::DateTimePatternGenerator> &generator = generators[locale];
     UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(ICUBridge::locale(locale), status));
-    if (U_FAILURE(status))
-        return skeleton;
+    if (!generator) {
+        generator.reset(icu::DateTimePatternGenerator::createInstance(ICUBridge::locale(locale), status));
+        if (U_FAILURE(status) || !generator) {
+            generators.remove(locale);
+            return skeleton;
+        }
+    }
     const icu::UnicodeString best = generator->getBestPattern(toICU(skeleton), status);
     return U_SUCCESS(status) ? fromICU(best) : skeleton;
 }
