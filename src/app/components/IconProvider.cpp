@@ -42,7 +42,19 @@ QImage IconProvider::requestImage(const QString &id, QSize *size, const QSize &r
     else if (target.height() <= 0)
         target.setHeight(target.width());
 
-    QImage image = render(symbol, color, target);
+    const QString key = u"%1|%2|%3x%4"_s.arg(symbol).arg(color.rgba()).arg(target.width()).arg(target.height());
+    QImage image;
+    {
+        const QMutexLocker locked(&m_lock);
+        image = m_drawn.value(key);
+    }
+    if (image.isNull()) {
+        image = render(symbol, color, target);
+        const QMutexLocker locked(&m_lock);
+        if (m_drawn.size() >= 512)
+            m_drawn.clear();
+        m_drawn.insert(key, image);
+    }
     if (size)
         *size = image.size();
     return image;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QMutex>
 #include <QQuickImageProvider>
 
 namespace quorvane {
@@ -17,6 +19,12 @@ public:
 
     // The same drawing without an engine: the symbol at `size` in `color`.
     [[nodiscard]] static QImage render(const QString &symbol, const QColor &color, const QSize &size);
+
+private:
+    // The same few icons are asked for again and again (every row, every window); each is
+    // drawn once. Images may be asked for from loader threads, hence the lock.
+    QMutex m_lock;
+    QHash<QString, QImage> m_drawn;
 };
 
 } // namespace quorvane

@@ -41,6 +41,7 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
              && m_env.clipboard);
     m_needsSignIn = !signedInNow();
     m_snapshot = (m_env.savedSnapshot.valid() ? m_env.savedSnapshot.get() : m_cache.load()).value_or(Snapshot());
+    sortUpcoming();
 
     QFile trackerFile(trackerPath());
     if (trackerFile.open(QIODevice::ReadOnly)) {
@@ -82,6 +83,7 @@ void AppModel::run(QCoro::Task<> &&task)
 void AppModel::setSnapshot(Snapshot snapshot)
 {
     m_snapshot = std::move(snapshot);
+    sortUpcoming();
     Q_EMIT snapshotChanged();
 }
 
@@ -199,15 +201,26 @@ QList<EventType> AppModel::activeTypes() const
     return out;
 }
 
+// The screens ask for the upcoming list many times a minute; it is sorted once per snapshot,
+// and each ask only drops what has ended by then.
+void AppModel::sortUpcoming()
+{
+    m_activeByStart.clear();
+    for (const Booking &b : std::as_const(m_snapshot.upcoming)) {
+        if (b.isActive())
+            m_activeByStart.append(b);
+    }
+    std::stable_sort(m_activeByStart.begin(), m_activeByStart.end(), byStart);
+}
+
 QList<Booking> AppModel::upcoming() const
 {
     const Instant at = now();
     QList<Booking> out;
-    for (const Booking &b : m_snapshot.upcoming) {
-        if (b.isActive() && b.end > at)
+    for (const Booking &b : m_activeByStart) {
+        if (b.end > at)
             out.append(b);
     }
-    std::stable_sort(out.begin(), out.end(), byStart);
     return out;
 }
 
@@ -225,8 +238,12 @@ QList<Booking> AppModel::today() const
 
 std::optional<Booking> AppModel::next() const
 {
-    const QList<Booking> list = upcoming();
-    return list.isEmpty() ? std::nullopt : std::optional<Booking>(list.first());
+    const Instant at = now();
+    for (const Booking &b : m_activeByStart) {
+        if (b.end > at)
+            return b;
+    }
+    return std::nullopt;
 }
 
 QList<Booking> AppModel::allBookings() const

@@ -185,6 +185,7 @@ private:
     [[nodiscard]] bool signedInNow() const { return m_keychain.token().has_value(); }
     [[nodiscard]] QString offlineMessage() const;
     void saveTracker() const;
+    void sortUpcoming();
     [[nodiscard]] QString trackerPath() const;
     void openURL(const QUrl &url) const;
 
@@ -223,6 +224,7 @@ private:
     quint64 m_saveGeneration = 0;
 
     Snapshot m_snapshot;
+    QList<Booking> m_activeByStart; // the snapshot's active upcoming bookings, by start
     std::optional<HostSettings> m_draftSettings;
     bool m_loading = false;
     bool m_firstLoadDone = false;
