@@ -2,31 +2,35 @@ import QtQuick
 import Quorvane.App
 import Quorvane.Main
 
-// The application's windows, by id: the main window opens at launch; the others are made,
-// from the view table, the first time they are asked for and kept afterwards. Closing a
-// window only hides it; the app goes on in the tray.
+// The application's windows, by id: the main window opens at launch (unless the app starts
+// in the tray); the others are made, from the view table, the first time they are asked for
+// and kept afterwards. Closing a window only hides it; the app goes on in the tray.
 QtObject {
     id: root
 
-    property MainWindow mainWindow: MainWindow {
-        objectName: "main"
-        visible: !Shell.startHidden
-        // Each time the main window's content appears: start the model, and bring up the
-        // welcome guide until it has been finished once.
-        onVisibleChanged: {
-            if (visible)
-                root.bootstrap()
+    property MainWindow mainWindow
+    readonly property Component mainComponent: Component {
+        MainWindow {
+            objectName: "main"
+            // Each time the main window's content appears: start the model, and bring up the
+            // welcome guide until it has been finished once.
+            onVisibleChanged: {
+                if (visible)
+                    root.bootstrap()
+            }
         }
     }
 
     // The other windows made so far, by id.
     property var made: ({})
 
-    // Started in the tray: the model runs for the tray's sake; the welcome guide waits until
-    // the main window first appears.
+    // Started in the tray, the model runs for the tray's sake, and the main window is made
+    // when it is first asked for; nothing of it is kept up to date meanwhile.
     Component.onCompleted: {
         if (Shell.startHidden)
             App.start()
+        else
+            open(AppWindow.Main)
     }
 
     function bootstrap() {
@@ -37,8 +41,11 @@ QtObject {
 
     // The window with that id, made on first use.
     function windowFor(windowId: int): Window {
-        if (windowId === AppWindow.Main)
+        if (windowId === AppWindow.Main) {
+            if (!mainWindow)
+                mainWindow = mainComponent.createObject(root) as MainWindow
             return mainWindow
+        }
         if (!made[windowId]) {
             const component = Shell.window(windowId, root)
             const window = component ? component.createObject(root) as Window : null

@@ -15,10 +15,16 @@ namespace {
 
 // The shell as the app loads it, on the fixture app (which outlives it).
 struct ShellRig : FixtureApp, View {
-    explicit ShellRig(FixtureApp::Options options = {})
+    explicit ShellRig(FixtureApp::Options options = {}, bool hidden = false)
         : FixtureApp(options)
-        , View({}, QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s))
+        , View(hiddenFirst(shell(), hidden), QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s))
     {}
+    // The shell is told before its QML loads, as main.cpp does.
+    static QByteArray hiddenFirst(ShellController &shell, bool hidden)
+    {
+        shell.setStartHidden(hidden);
+        return {};
+    }
     [[nodiscard]] static QQuickWindow *window(const QString &id)
     {
         for (QWindow *w : QGuiApplication::topLevelWindows()) {
@@ -94,6 +100,20 @@ private Q_SLOTS:
         rig.shell().open(AppWindow::Main);
         QTRY_COMPARE(rig.refreshes(), 2);
         QCOMPARE(bool(ShellRig::window(u"onboarding"_s)), !onboarded);
+        NO_WARNINGS(rig);
+    }
+
+    // Started in the tray: the model runs, no window is made until one is asked for, and the
+    // main window's first appearance brings the welcome guide as usual.
+    void startHidden()
+    {
+        ShellRig rig(FixtureApp::Options{.onboarded = false}, true);
+        QTRY_COMPARE(rig.refreshes(), 1);
+        QCOMPARE(ShellRig::made(u"main"_s), 0);
+        QVERIFY(!ShellRig::window(u"onboarding"_s));
+        rig.shell().open(AppWindow::Main);
+        QVERIFY(ShellRig::window(u"main"_s));
+        QTRY_VERIFY(ShellRig::window(u"onboarding"_s));
         NO_WARNINGS(rig);
     }
 
