@@ -229,8 +229,12 @@ QList<Booking> AppModel::today() const
     const QTimeZone tz(m_env.zone.toUtf8());
     const QDate day = now().toTimeZone(tz).date();
     QList<Booking> out;
+    // By start: once one starts after today, so do all the rest.
     for (const Booking &b : upcoming()) {
-        if (b.start.toTimeZone(tz).date() == day)
+        const QDate starts = b.start.toTimeZone(tz).date();
+        if (starts > day)
+            break;
+        if (starts == day)
             out.append(b);
     }
     return out;
