@@ -1,26 +1,15 @@
 #include "main/MainWindowModel.h"
 
 #include "main/MainWindowText.h"
-#include "model/AppBinding.h"
 
 namespace quorvane {
 
 MainWindowModel::MainWindowModel(QObject *parent)
-    : QObject(parent)
+    : AppViewModel({&AppModel::offlineChanged, &AppModel::savingChanged, &AppModel::lastRefreshChanged,
+                    &AppModel::sectionChanged, &AppModel::snapshotChanged, &AppModel::needsSignInChanged,
+                    &AppModel::ticked},
+                   parent)
 {}
-
-void MainWindowModel::setApp(AppModel *app)
-{
-    const bool moved = AppBinding::follow(
-        m_app, app, this,
-        {&AppModel::offlineChanged, &AppModel::savingChanged, &AppModel::lastRefreshChanged, &AppModel::sectionChanged,
-         &AppModel::snapshotChanged, &AppModel::needsSignInChanged, &AppModel::ticked},
-        &MainWindowModel::changed);
-    if (!moved)
-        return;
-    Q_EMIT appChanged();
-    Q_EMIT changed();
-}
 
 QString MainWindowModel::title() const
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/AppViewModel.h"
+
 #include <QColor>
 #include <QObject>
 #include <QPointer>
@@ -13,11 +15,10 @@ class AppModel;
 // The main window's frame for QML: window title and subtitle, the account footer, and
 // whether the sign-in hero stands in for the screens.
 // Re-reads the model whenever something these depend on changes, and at each minute tick.
-class MainWindowModel : public QObject
+class MainWindowModel : public AppViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quorvane::AppModel *app READ app WRITE setApp NOTIFY appChanged)
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
@@ -32,9 +33,6 @@ class MainWindowModel : public QObject
 public:
     explicit MainWindowModel(QObject *parent = nullptr);
 
-    [[nodiscard]] AppModel *app() const { return m_app; }
-    void setApp(AppModel *app);
-
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString symbol() const;
     [[nodiscard]] QString subtitle() const;
@@ -44,12 +42,7 @@ public:
     [[nodiscard]] QColor statusColor() const;
     [[nodiscard]] bool showsSignInHero() const;
 
-Q_SIGNALS:
-    void appChanged();
-    void changed();
-
 private:
-    QPointer<AppModel> m_app;
 };
 
 } // namespace quorvane

@@ -1,25 +1,18 @@
 #include "today/NextMeetingCardModel.h"
 
 #include "components/HexColor.h"
-#include "model/AppBinding.h"
 #include "today/NextMeeting.h"
 
 namespace quorvane {
 
-void NextMeetingCardModel::setApp(AppModel *app)
-{
-    if (!AppBinding::follow(m_app, app, this, {&AppModel::snapshotChanged, &AppModel::ticked},
-                            &NextMeetingCardModel::redraw))
-        return;
-    Q_EMIT appChanged();
-    redraw();
-}
+NextMeetingCardModel::NextMeetingCardModel(QObject *parent)
+    : AppViewModel({&AppModel::snapshotChanged, &AppModel::ticked}, parent)
+{}
 
-void NextMeetingCardModel::redraw()
+void NextMeetingCardModel::recompute()
 {
     m_booking = m_app ? m_app->next() : std::nullopt;
     m_date = m_app ? m_app->now() : QDateTime();
-    Q_EMIT changed();
 }
 
 bool NextMeetingCardModel::isNow() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/AppViewModel.h"
+
 #include "Booking.h"
 
 #include <QColor>
@@ -16,11 +18,10 @@ class AppModel;
 
 // What the next-meeting card shows of the model's next booking. The card calls redraw() from
 // its own timer so the countdown moves between the model's minute ticks.
-class NextMeetingCardModel : public QObject
+class NextMeetingCardModel : public AppViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quorvane::AppModel *app READ app WRITE setApp NOTIFY appChanged)
     Q_PROPERTY(bool hasBooking READ hasBooking NOTIFY changed)
     Q_PROPERTY(bool isNow READ isNow NOTIFY changed)
     Q_PROPERTY(QString caption READ caption NOTIFY changed)
@@ -31,10 +32,7 @@ class NextMeetingCardModel : public QObject
     Q_PROPERTY(QString joinName READ joinName NOTIFY changed)
 
 public:
-    using QObject::QObject;
-
-    [[nodiscard]] AppModel *app() const { return m_app; }
-    void setApp(AppModel *app);
+    explicit NextMeetingCardModel(QObject *parent = nullptr);
 
     [[nodiscard]] bool hasBooking() const { return shown(); }
     [[nodiscard]] bool isNow() const;
@@ -47,18 +45,14 @@ public:
     [[nodiscard]] QString joinName() const;
 
     // Reads the next booking and the clock again.
-    Q_INVOKABLE void redraw();
+    Q_INVOKABLE void redraw() { reload(); }
     Q_INVOKABLE void join();
 
-Q_SIGNALS:
-    void appChanged();
-    void changed();
-
 private:
+    void recompute() override;
     // The model may go before the card: then there is nothing to show.
     [[nodiscard]] bool shown() const { return m_app && m_booking; }
 
-    QPointer<AppModel> m_app;
     std::optional<Booking> m_booking;
     QDateTime m_date;
 };

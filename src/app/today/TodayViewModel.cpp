@@ -1,18 +1,12 @@
 #include "today/TodayViewModel.h"
 
-#include "model/AppBinding.h"
-
 namespace quorvane {
 
-void TodayViewModel::setApp(AppModel *app)
-{
-    if (!AppBinding::follow(m_app, app, this, {&AppModel::snapshotChanged, &AppModel::ticked}, &TodayViewModel::reload))
-        return;
-    Q_EMIT appChanged();
-    reload();
-}
+TodayViewModel::TodayViewModel(QObject *parent)
+    : AppViewModel({&AppModel::snapshotChanged, &AppModel::ticked}, parent)
+{}
 
-void TodayViewModel::reload()
+void TodayViewModel::recompute()
 {
     if (m_app) {
         const Instant now = m_app->now();
@@ -23,7 +17,6 @@ void TodayViewModel::reload()
         m_counts = {};
         m_showsConnectCard = false;
     }
-    Q_EMIT changed();
 }
 
 void TodayViewModel::connectGoogle()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/AppViewModel.h"
+
 #include "today/TodayCounters.h"
 
 #include <QObject>
@@ -11,21 +13,17 @@ namespace quorvane {
 class AppModel;
 
 // The Today screen's counters and its calendar card, recomputed when the model changes or ticks.
-class TodayViewModel : public QObject
+class TodayViewModel : public AppViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quorvane::AppModel *app READ app WRITE setApp NOTIFY appChanged)
     Q_PROPERTY(int todayCount READ todayCount NOTIFY changed)
     Q_PROPERTY(int weekCount READ weekCount NOTIFY changed)
     Q_PROPERTY(int openPollsCount READ openPollsCount NOTIFY changed)
     Q_PROPERTY(bool showsConnectCard READ showsConnectCard NOTIFY changed)
 
 public:
-    using QObject::QObject;
-
-    [[nodiscard]] AppModel *app() const { return m_app; }
-    void setApp(AppModel *app);
+    explicit TodayViewModel(QObject *parent = nullptr);
 
     [[nodiscard]] int todayCount() const { return m_counts.today; }
     [[nodiscard]] int weekCount() const { return m_counts.thisWeek; }
@@ -34,14 +32,9 @@ public:
 
     Q_INVOKABLE void connectGoogle();
 
-Q_SIGNALS:
-    void appChanged();
-    void changed();
-
 private:
-    void reload();
+    void recompute() override;
 
-    QPointer<AppModel> m_app;
     TodayCounters::Counts m_counts;
     bool m_showsConnectCard = false;
 };

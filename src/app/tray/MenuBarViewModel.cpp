@@ -1,23 +1,18 @@
 #include "tray/MenuBarViewModel.h"
 
 #include "Formats.h"
-#include "model/AppBinding.h"
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
 
-void MenuBarViewModel::setApp(AppModel *app)
-{
-    const auto signals = {&AppModel::snapshotChanged, &AppModel::ticked, &AppModel::bannerChanged,
-                          &AppModel::needsSignInChanged};
-    if (!AppBinding::follow(m_app, app, this, signals, &MenuBarViewModel::reload))
-        return;
-    Q_EMIT appChanged();
-    reload();
-}
+MenuBarViewModel::MenuBarViewModel(QObject *parent)
+    : AppViewModel(
+        {&AppModel::snapshotChanged, &AppModel::ticked, &AppModel::bannerChanged, &AppModel::needsSignInChanged},
+        parent)
+{}
 
-void MenuBarViewModel::reload()
+void MenuBarViewModel::recompute()
 {
     if (m_app) {
         m_content = PopoverContent::select(m_app->needsSignIn(), m_app->account().has_value(), m_app->banner());
@@ -26,7 +21,6 @@ void MenuBarViewModel::reload()
         m_content = {};
         m_dateText.clear();
     }
-    Q_EMIT changed();
 }
 
 } // namespace quorvane

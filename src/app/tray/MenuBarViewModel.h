@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/AppViewModel.h"
+
 #include "tray/PopoverContent.h"
 
 #include <QObject>
@@ -11,21 +13,17 @@ namespace quorvane {
 class AppModel;
 
 // What the tray popover shows: the date in its header and which of its parts appear.
-class MenuBarViewModel : public QObject
+class MenuBarViewModel : public AppViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(quorvane::AppModel *app READ app WRITE setApp NOTIFY appChanged)
     Q_PROPERTY(QString dateText READ dateText NOTIFY changed)
     Q_PROPERTY(bool showsSignIn READ showsSignIn NOTIFY changed)
     Q_PROPERTY(bool showsBanner READ showsBanner NOTIFY changed)
     Q_PROPERTY(bool showsToast READ showsToast NOTIFY changed)
 
 public:
-    using QObject::QObject;
-
-    [[nodiscard]] AppModel *app() const { return m_app; }
-    void setApp(AppModel *app);
+    explicit MenuBarViewModel(QObject *parent = nullptr);
 
     // Today as "Tuesday, Mar 10" in the user's locale and zone.
     [[nodiscard]] QString dateText() const { return m_dateText; }
@@ -33,14 +31,9 @@ public:
     [[nodiscard]] bool showsBanner() const { return m_content.banner; }
     [[nodiscard]] bool showsToast() const { return m_content.toast; }
 
-Q_SIGNALS:
-    void appChanged();
-    void changed();
-
 private:
-    void reload();
+    void recompute() override;
 
-    QPointer<AppModel> m_app;
     PopoverContent m_content;
     QString m_dateText;
 };
