@@ -7,6 +7,7 @@ set(QUORVANE_FEATURES
     shell
     main
     today
+    bookings
     tray
     onboarding
     about

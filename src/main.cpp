@@ -78,7 +78,8 @@ int main(int argc, char *argv[])
 
     const QString locale = QLocale::system().name();
     // The locale's date patterns, which the first screen needs, are worked out meanwhile too.
-    const std::future<void> patterns = std::async(std::launch::async, [locale] { Formats::pattern(u"jmm"_s, locale); });
+    const std::future<void> patterns =
+        std::async(std::launch::async, [locale] { (void)Formats::pattern(u"jmm"_s, locale); });
 
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Quorvane"_s, u"Quorvane"_s);
     Preferences preferences(settings);

@@ -12,7 +12,19 @@ TypeLinksModel::TypeLinksModel(QObject *parent)
 
 void TypeLinksModel::rebuild()
 {
-    replaceRows(m_types, app() ? app()->activeTypes() : QList<EventType>());
+    if (!app())
+        replaceRows(m_types, {});
+    else
+        replaceRows(m_types, m_includeInactive ? app()->eventTypes() : app()->activeTypes());
+}
+
+void TypeLinksModel::setIncludeInactive(bool value)
+{
+    if (value == m_includeInactive)
+        return;
+    m_includeInactive = value;
+    rebuild();
+    Q_EMIT includeInactiveChanged();
 }
 
 int TypeLinksModel::rowCount(const QModelIndex &parent) const

@@ -13,6 +13,8 @@ class TypeLinksModel : public AppListModel
 {
     Q_OBJECT
     QML_ELEMENT
+    // Inactive types too, for choosing among the types that bookings may carry.
+    Q_PROPERTY(bool includeInactive MEMBER m_includeInactive WRITE setIncludeInactive NOTIFY includeInactiveChanged)
 
 public:
     enum Role {
@@ -36,11 +38,17 @@ public:
     // Puts the row's public link on the clipboard; the model shows the toast.
     Q_INVOKABLE void copyLink(int row);
 
+    void setIncludeInactive(bool value);
+
+Q_SIGNALS:
+    void includeInactiveChanged();
+
 protected:
     void rebuild() override;
 
 private:
     QList<EventType> m_types;
+    bool m_includeInactive = false;
 };
 
 } // namespace quorvane

@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
+#include <QHash>
+
 #include <algorithm>
 
 namespace quorvane {
@@ -44,7 +46,17 @@ protected:
     template <typename Row>
     void replaceRows(QList<Row> &rows, QList<Row> next, const QList<int> &roles = {});
 
+    // Like replaceRows(), for lists whose rows have an identity (`key`) and keep their relative
+    // order from one reading to the next, as a filtered list does: rows that stay keep their
+    // delegates even when rows before them come or go, and hear of a change only when they
+    // differ. A row that moved against the others is taken out and put back.
+    template <typename Row, typename KeyOf>
+    void mergeRows(QList<Row> &rows, QList<Row> next, KeyOf keyOf);
+
 private:
+    // Emits dataChanged for the kept rows in `changed`, one signal per run of neighbours.
+    void emitChanged(const QList<int> &changed);
+
     QList<AppBinding::Signal> m_signals;
     QPointer<AppModel> m_app;
 };
@@ -71,6 +83,67 @@ void AppListModel::replaceRows(QList<Row> &rows, QList<Row> next, const QList<in
         endInsertRows();
     }
     if (after != before)
+        Q_EMIT countChanged();
+}
+
+template <typename Row, typename KeyOf>
+void AppListModel::mergeRows(QList<Row> &rows, QList<Row> next, KeyOf keyOf)
+{
+    using Key = std::decay_t<decltype(keyOf(next.first()))>;
+    QHash<Key, int> position; // in `next`
+    position.reserve(next.size());
+    for (int i = 0; i < next.size(); ++i)
+        position.insert(keyOf(next.at(i)), i);
+
+    // Out go the rows that are gone, and those that would break the order of the kept ones;
+    // runs of neighbours leave together, from the back so that the indexes hold.
+    QList<bool> keep(rows.size());
+    for (int i = 0, last = -1; i < rows.size(); ++i) {
+        const int at = position.value(keyOf(rows.at(i)), -1);
+        keep[i] = at > last;
+        if (keep[i])
+            last = at;
+    }
+    const qsizetype before = rows.size();
+    for (int end = int(rows.size()); end > 0;) {
+        if (keep.at(end - 1)) {
+            --end;
+            continue;
+        }
+        int first = end - 1;
+        while (first > 0 && !keep.at(first - 1))
+            --first;
+        beginRemoveRows({}, first, end - 1);
+        rows.remove(first, end - first);
+        endRemoveRows();
+        end = first;
+    }
+
+    // The kept rows are now in `next`'s order; the new ones go in between.
+    QList<int> changed;
+    int i = 0;
+    for (int j = 0; j < next.size();) {
+        if (i < rows.size() && keyOf(rows.at(i)) == keyOf(next.at(j))) {
+            if (!(rows.at(i) == next.at(j))) {
+                rows[i] = std::move(next[j]);
+                changed.append(i);
+            }
+            ++i;
+            ++j;
+            continue;
+        }
+        int end = j; // the run of new rows that goes in at i
+        while (end < next.size() && (i >= rows.size() || keyOf(rows.at(i)) != keyOf(next.at(end))))
+            ++end;
+        beginInsertRows({}, i, i + (end - j) - 1);
+        for (int k = j; k < end; ++k)
+            rows.insert(i + (k - j), std::move(next[k]));
+        endInsertRows();
+        i += end - j;
+        j = end;
+    }
+    emitChanged(changed);
+    if (rows.size() != before)
         Q_EMIT countChanged();
 }
 

@@ -262,6 +262,17 @@ QList<Booking> AppModel::allBookings() const
     return out;
 }
 
+std::optional<Booking> AppModel::booking(const QString &id) const
+{
+    // As in allBookings(), the upcoming list has the last word on a booking in both.
+    for (const QList<Booking> *list : {&m_snapshot.upcoming, &m_snapshot.history}) {
+        const auto found = std::find_if(list->cbegin(), list->cend(), [&](const Booking &b) { return b.id == id; });
+        if (found != list->cend())
+            return *found;
+    }
+    return std::nullopt;
+}
+
 bool AppModel::googleConnected() const
 {
     if (m_snapshot.google)

@@ -109,6 +109,8 @@ public:
     [[nodiscard]] QList<Booking> today() const;
     [[nodiscard]] std::optional<Booking> next() const;
     [[nodiscard]] QList<Booking> allBookings() const;
+    // One booking of allBookings() by its id.
+    [[nodiscard]] std::optional<Booking> booking(const QString &id) const;
     [[nodiscard]] bool googleConnected() const;
     [[nodiscard]] std::optional<EventType> type(const QString &slug) const;
     [[nodiscard]] QString typeTitle(const QString &slug) const;
@@ -147,6 +149,8 @@ public:
     [[nodiscard]] bool canJoinNext() const;
     Q_INVOKABLE void joinNext();
     void rescheduleMessage(const Booking &booking);
+    // A new message to the guest in the default mail program.
+    void email(const Booking &booking);
     [[nodiscard]] QString rescheduleText(const Booking &booking) const;
     void copy(const QString &text);
     // The one way the client changes the host's settings: at once in the draft, on the

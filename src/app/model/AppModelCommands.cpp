@@ -125,6 +125,13 @@ void AppModel::joinNext()
         join(*booking);
 }
 
+void AppModel::email(const Booking &booking)
+{
+    const QUrl url(u"mailto:"_s + booking.email, QUrl::StrictMode);
+    if (url.isValid())
+        openURL(url);
+}
+
 void AppModel::openURL(const QUrl &url) const
 {
     m_env.opener->open(url);

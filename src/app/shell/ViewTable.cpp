@@ -10,6 +10,7 @@ QmlType section(AppSection section)
     case AppSection::today:
         return {u"Quorvane.Today"_s, u"TodayView"_s};
     case AppSection::bookings:
+        return {u"Quorvane.Bookings"_s, u"BookingsView"_s};
     case AppSection::types:
     case AppSection::availability:
     case AppSection::polls:

@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QMutex>
 
+#include <cstdlib>
+
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
 #include <unicode/reldatefmt.h>
@@ -75,6 +77,27 @@ QString format(const Instant &instant, const QString &skeleton, const QString &l
     return fromICU(out);
 }
 
+QString mediumDateShortTime(const Instant &instant, const QString &locale, const QString &zone)
+{
+    thread_local QHash<QString, std::shared_ptr<icu::DateFormat>> cache;
+    const QString key = locale + u'|' + zone;
+    std::shared_ptr<icu::DateFormat> &formatter = cache[key];
+    if (!formatter) {
+        formatter.reset(icu::DateFormat::createDateTimeInstance(icu::DateFormat::kMedium, icu::DateFormat::kShort,
+                                                                ICUBridge::locale(locale)));
+        if (!formatter) {
+            cache.remove(key);
+            return {};
+        }
+        formatter->adoptTimeZone(ICUBridge::zone(zone).release());
+    }
+    if (!instant.isValid())
+        return {};
+    icu::UnicodeString out;
+    formatter->format(toUDate(instant), out);
+    return fromICU(out);
+}
+
 bool isKnownZone(const QString &zone)
 {
     return !ICUBridge::isUnknown(*ICUBridge::zone(zone));
@@ -112,6 +135,39 @@ QString relativeDay(int days, const QString &locale, Capitalization capitalizati
         return {};
     icu::UnicodeString out;
     formatter.format(double(days), UDAT_REL_UNIT_DAY, out, status);
+    return U_SUCCESS(status) ? fromICU(out) : QString();
+}
+
+QString relativeTime(const Instant &then, const Instant &now, const QString &locale)
+{
+    struct Unit {
+        qint64 seconds;
+        URelativeDateTimeUnit unit;
+    };
+    // Months and years as their mean lengths: "Booked 2 months ago" needs no calendar.
+    static constexpr Unit units[] = {
+        {365 * 86400 + 20952, UDAT_REL_UNIT_YEAR},
+        {30 * 86400 + 37746, UDAT_REL_UNIT_MONTH},
+        {7 * 86400, UDAT_REL_UNIT_WEEK},
+        {86400, UDAT_REL_UNIT_DAY},
+        {3600, UDAT_REL_UNIT_HOUR},
+        {60, UDAT_REL_UNIT_MINUTE},
+    };
+    const qint64 difference = now.secsTo(then);
+    Unit chosen{1, UDAT_REL_UNIT_SECOND};
+    for (const Unit &unit : units) {
+        if (std::abs(difference) >= unit.seconds) {
+            chosen = unit;
+            break;
+        }
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    icu::RelativeDateTimeFormatter formatter(ICUBridge::locale(locale), nullptr, UDAT_STYLE_LONG,
+                                             UDISPCTX_CAPITALIZATION_FOR_MIDDLE_OF_SENTENCE, status);
+    if (U_FAILURE(status))
+        return {};
+    icu::UnicodeString out;
+    formatter.format(double(difference / chosen.seconds), chosen.unit, out, status);
     return U_SUCCESS(status) ? fromICU(out) : QString();
 }
 

@@ -16,6 +16,9 @@ namespace quorvane::Formats {
 [[nodiscard]] QString format(const Instant &instant, const QString &skeleton, const QString &locale,
                              const QString &zone);
 
+// The locale's medium date and short time, as in "Mar 10, 2026, 9:30\u202FAM".
+[[nodiscard]] QString mediumDateShortTime(const Instant &instant, const QString &locale, const QString &zone);
+
 // The locale's pattern for a skeleton: "jmm" gives "h:mm\u202Fa" in en_US and "HH:mm" in de_DE.
 [[nodiscard]] QString pattern(const QString &skeleton, const QString &locale);
 
@@ -32,6 +35,10 @@ enum class Capitalization { middleOfSentence, startOfSentence };
 // A count of calendar days from today in words: "yesterday", "today", "tomorrow", "in 3 days".
 [[nodiscard]] QString relativeDay(int days, const QString &locale,
                                   Capitalization capitalization = Capitalization::middleOfSentence);
+
+// How far `then` lies from `now` in full words, in the largest unit that isn't zero, with the
+// locale's names where it has them: "now", "yesterday", "last week", "in 3 hours", "2 months ago".
+[[nodiscard]] QString relativeTime(const Instant &then, const Instant &now, const QString &locale);
 
 enum class WeekdayWidth { narrow, abbreviated, wide }; // "T", "Tue", "Tuesday"
 

@@ -56,6 +56,7 @@ QtObject {
     readonly property int radiusM: 6
     readonly property int radiusL: 10
     readonly property int radiusXL: 12
+    readonly property int radiusXXL: 14
 
     // A symbol of the bundled set drawn in `tint` by the "icon" image provider; no symbol, no
     // image.

@@ -12,12 +12,19 @@ ToolBar {
 
     property string subtitle
     property bool sidebarVisible: true
+    // The screen on show when it takes a search (it has `searchPrompt` and `query`), or null.
+    property Item searchScreen: null
 
     readonly property Command shareCommand: Commands.get(CommandId.ShareTimes)
     readonly property Command paletteCommand: Commands.get(CommandId.CommandPalette)
     readonly property Command refreshCommand: Commands.get(CommandId.Refresh)
 
     signal toggleSidebar()
+
+    function focusSearch() {
+        searchField.forceActiveFocus()
+        searchField.selectAll()
+    }
 
     RowLayout {
         anchors.fill: parent
@@ -44,6 +51,31 @@ ToolBar {
             textFormat: Text.PlainText
             font.pixelSize: Typography.caption
             color: Style.secondary
+        }
+        TextField {
+            id: searchField
+            objectName: "searchField"
+            Layout.preferredWidth: 220
+            Layout.rightMargin: Style.spaceM
+            visible: root.searchScreen !== null
+            placeholderText: root.searchScreen ? root.searchScreen.searchPrompt : ""
+            text: root.searchScreen ? root.searchScreen.query : ""
+            leftPadding: Style.spaceXL + 14
+            onTextEdited: root.searchScreen.query = text
+            Keys.onEscapePressed: {
+                text = ""
+                root.searchScreen.query = ""
+            }
+            Accessible.name: placeholderText
+            Accessible.role: Accessible.EditableText
+
+            Icon {
+                anchors.verticalCenter: parent.verticalCenter
+                x: Style.spaceM
+                name: "magnifyingglass"
+                size: 14
+                color: Style.secondary
+            }
         }
         SymbolButton {
             objectName: "quickShareButton"

@@ -26,7 +26,13 @@ ApplicationWindow {
         id: toolBar
         subtitle: frameModel.subtitle
         sidebarVisible: window.sidebarVisible
+        searchScreen: content.screenItem && content.screenItem.searchPrompt !== undefined ? content.screenItem : null
         onToggleSidebar: window.sidebarVisible = !window.sidebarVisible
+    }
+    Shortcut {
+        sequences: [StandardKey.Find]
+        enabled: toolBar.searchScreen !== null
+        onActivated: toolBar.focusSearch()
     }
 
     SplitView {
@@ -77,6 +83,7 @@ ApplicationWindow {
                         }
                     }
                     SectionContent {
+                        id: content
                         objectName: "sectionContent"
                         anchors.fill: parent
                         frame: frameModel

@@ -9,6 +9,8 @@ Item {
     required property MainWindowModel frame
     readonly property string section: App.section
     readonly property Component screen: Shell.sectionView(section, root)
+    // The screen on show, once made.
+    readonly property Item screenItem: screenLoader.item
 
     Loader {
         id: screenLoader

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import Quorvane.Components
 
 // The one action a card leads to, filled with the accent colour.
 Button {

@@ -1,0 +1,147 @@
+#include "bookings/Bookings.h"
+
+#include "Formats.h"
+#include "TextSearch.h"
+
+#include <QHash>
+#include <QMap>
+#include <QTimeZone>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane::Bookings {
+
+namespace {
+
+bool shows(const Booking &b, Filter filter, const Instant &now)
+{
+    switch (filter) {
+    case Filter::upcoming:
+        return b.isActive() && b.end > now;
+    case Filter::past:
+        return b.status == BookingStatus::confirmed && b.end <= now;
+    case Filter::cancelled:
+        return b.status == BookingStatus::cancelled;
+    case Filter::all:
+        break;
+    }
+    return true;
+}
+
+// The query found in the booking's searchable text. A query without blanks can't match
+// across the blanks that join the parts, so the parts are searched one by one without
+// building the joined text.
+bool matches(const Booking &b, const TextSearch &search, const QString &typeTitle)
+{
+    if (search.isEmpty())
+        return true;
+    const QString notes = b.notes.value_or(QString());
+    if (search.hasBlank())
+        return search.foundIn(b.name + u' ' + b.email + u' ' + notes + u' ' + typeTitle);
+    return search.foundIn(b.name) || search.foundIn(b.email) || search.foundIn(notes) || search.foundIn(typeTitle);
+}
+
+} // namespace
+
+QList<Filter> allFilters()
+{
+    return {Filter::upcoming, Filter::past, Filter::cancelled, Filter::all};
+}
+
+QString title(Filter filter)
+{
+    switch (filter) {
+    case Filter::upcoming:
+        return u"Upcoming"_s;
+    case Filter::past:
+        return u"Past"_s;
+    case Filter::cancelled:
+        return u"Cancelled"_s;
+    case Filter::all:
+        break;
+    }
+    return u"All"_s;
+}
+
+QList<Booking> filtered(const QList<Booking> &all, Filter filter, const std::optional<QString> &typeFilter,
+                        const QString &query, const Instant &now, const QString &locale, const TypeTitle &typeTitle)
+{
+    const TextSearch search(query, locale);
+    QHash<QString, QString> titles; // by slug: a few types among thousands of bookings
+    QList<Booking> out;
+    for (const Booking &b : all) {
+        if (!shows(b, filter, now) || (typeFilter && b.type != *typeFilter))
+            continue;
+        if (!search.isEmpty()) {
+            auto title = titles.find(b.type);
+            if (title == titles.end())
+                title = titles.insert(b.type, typeTitle(b.type));
+            if (!matches(b, search, *title))
+                continue;
+        }
+        out.append(b);
+    }
+    if (filter == Filter::upcoming)
+        std::stable_sort(out.begin(), out.end(), [](const Booking &a, const Booking &b) { return a.start < b.start; });
+    return out;
+}
+
+QList<Day> grouped(const QList<Booking> &filtered, Filter filter, const QString &zone)
+{
+    const QTimeZone timeZone(zone.toUtf8());
+    QMap<QDate, QList<Booking>> byDay;
+    for (const Booking &b : filtered)
+        byDay[b.start.toTimeZone(timeZone).date()].append(b);
+    QList<Day> out;
+    out.reserve(byDay.size());
+    for (auto it = byDay.begin(); it != byDay.end(); ++it)
+        out.append(Day{it.key(), std::move(it.value())});
+    if (filter != Filter::upcoming)
+        std::reverse(out.begin(), out.end());
+    return out;
+}
+
+QString theirTime(const Booking &booking, const QString &locale, const QString &machineZone)
+{
+    const QString zone = Formats::isKnownZone(booking.tz) ? booking.tz : machineZone;
+    return u"%1 (%2)"_s.arg(Formats::mediumDateShortTime(booking.start, locale, zone),
+                            QString(zone).replace(u'_', u' '));
+}
+
+QString firstName(const QString &name)
+{
+    const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
+    return words.isEmpty() ? QString() : words.first();
+}
+
+QString emailLabel(const QString &name)
+{
+    return u"Email %1"_s.arg(firstName(name));
+}
+
+Actions actions(const Booking &booking, const Instant &now)
+{
+    Actions out;
+    out.join = booking.isActive() && booking.meetURL().has_value();
+    out.reschedule = booking.isActive() && booking.end > now;
+    out.noShow = booking.status == BookingStatus::confirmed && booking.end < now;
+    return out;
+}
+
+bool joinsFromDetail(const Booking &booking, const Instant &now)
+{
+    const Actions a = actions(booking, now);
+    return a.join && a.reschedule;
+}
+
+EmptyState emptyState(Filter filter, const QString &query)
+{
+    if (query.isEmpty())
+        return {u"No %1 bookings"_s.arg(title(filter).toLower()), u"calendar"_s,
+                u"Bookings made through your links appear here."_s};
+    return {u"No results for \u201C%1\u201D"_s.arg(query), u"magnifyingglass"_s, u"Try a name, email or event type."_s};
+}
+
+} // namespace quorvane::Bookings
