@@ -76,8 +76,8 @@ void BookingListModel::rebuild()
                 found = titles.insert(slug, model->typeTitle(slug));
             return *found;
         };
-        const QList<Booking> shown = Bookings::filtered(model->allBookings(), m_filter, m_typeFilter, m_query, now,
-                                                        model->locale(), typeTitle);
+        const QList<Booking> shown =
+            Bookings::filtered(model->allBookings(), m_filter, m_typeFilter, m_query, now, model->locale(), typeTitle);
         QHash<QString, QString> colors;
         for (Bookings::Day &day : Bookings::grouped(shown, m_filter, model->zone())) {
             bool first = true;

@@ -36,17 +36,17 @@ class BookingListModel : public AppListModel
 public:
     enum Role {
         IdRole = Qt::UserRole + 1,
-        DayTitleRole,    // "Tuesday, March 10" on the first row of a day, else empty
-        NameRole,        // the guest
-        DetailRole,      // "9:30 AM · Intro call"
-        ColorRole,       // the type's colour
-        StatusRole,      // the pill's text, or empty
-        StatusTintRole,  // the pill's colour
-        CancelledRole,   // drawn struck through
-        ShowsVideoRole,  // the green camera: it has a meeting link and is on
-        AccessibleRole,  // the row read as one
-        EmailLabelRole,  // "Email Ann"
-        CanJoinRole,     // context menu entries, as of the last tick
+        DayTitleRole,   // "Tuesday, March 10" on the first row of a day, else empty
+        NameRole,       // the guest
+        DetailRole,     // "9:30 AM · Intro call"
+        ColorRole,      // the type's colour
+        StatusRole,     // the pill's text, or empty
+        StatusTintRole, // the pill's colour
+        CancelledRole,  // drawn struck through
+        ShowsVideoRole, // the green camera: it has a meeting link and is on
+        AccessibleRole, // the row read as one
+        EmailLabelRole, // "Email Ann"
+        CanJoinRole,    // context menu entries, as of the last tick
         CanRescheduleRole,
         NoShowTitleRole, // "Mark as No-show", "Clear No-show", or empty
     };

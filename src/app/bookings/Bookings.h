@@ -27,9 +27,9 @@ using TypeTitle = std::function<QString(const QString &slug)>;
 // of all bookings (newest first). Only `upcoming` sorts, by start; the others keep the order.
 // The query is sought, ignoring case by the locale's rules, in "{name} {email} {notes} {type
 // title}".
-[[nodiscard]] QList<Booking> filtered(const QList<Booking> &all, Filter filter, const std::optional<QString> &typeFilter,
-                                      const QString &query, const Instant &now, const QString &locale,
-                                      const TypeTitle &typeTitle);
+[[nodiscard]] QList<Booking> filtered(const QList<Booking> &all, Filter filter,
+                                      const std::optional<QString> &typeFilter, const QString &query,
+                                      const Instant &now, const QString &locale, const TypeTitle &typeTitle);
 
 struct Day {
     QDate day;

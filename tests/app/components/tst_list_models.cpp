@@ -1,6 +1,7 @@
 // Every list model of the app under QAbstractItemModelTester, over the fixture's data and
 // across refreshes that change their rows.
 #include "FixtureApp.h"
+#include "bookings/BookingListModel.h"
 #include "components/TypeLinksModel.h"
 #include "main/SectionListModel.h"
 #include "today/TimelineModel.h"
@@ -69,6 +70,9 @@ private Q_SLOTS:
                                   << QVariant(u"Priya R."_s) << dropTomas << 3;
         QTest::newRow("sections") << make<SectionListModel>() << 6 << cancelTomas << 0
                                   << int(SectionListModel::BadgeRole) << QVariant(3) << Edit() << 6;
+        // Eight bookings to come (a ninth is cancelled); cancelling Tomás's leaves seven.
+        QTest::newRow("bookings") << make<BookingListModel>() << 8 << renamePriya << 0
+                                  << int(BookingListModel::NameRole) << QVariant(u"Priya R."_s) << cancelTomas << 7;
         // Three of the four types are active.
         QTest::newRow("type links") << make<TypeLinksModel>() << 3 << renameIntro << 0
                                     << int(TypeLinksModel::ShortAccessibleNameRole)
@@ -130,6 +134,34 @@ private Q_SLOTS:
         model->setApp(nullptr);
         model->setApp(&app.model());
         QCOMPARE(model->rowCount(), rows);
+    }
+
+    // Each letter typed narrows the list without touching the rows that stay: they keep their
+    // delegates, and a selection or a persistent index on them holds.
+    void searchKeepsRows()
+    {
+        FixtureApp app;
+        BookingListModel model;
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.setApp(&app.model());
+        const QPersistentModelIndex jonas = model.index(model.indexOf(u"bk-006"_s));
+        QVERIFY(jonas.isValid());
+        QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+        QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+        model.setQuery(u"o"_s);
+        model.setQuery(u"on"_s); // Jonas Becker, Tomás Ferreira, Hannah Okafor (Consultation), …
+        model.setQuery(u"jon"_s);
+        QCOMPARE(model.rowCount(), 1);
+        QVERIFY(jonas.isValid());
+        QCOMPARE(jonas.data(BookingListModel::IdRole).toString(), u"bk-006"_s);
+        QVERIFY(inserted.isEmpty());
+        // Only the first row of a day changes, when it gets the day's heading.
+        for (const QList<QVariant> &signal : changed)
+            QCOMPARE(signal.at(0).toModelIndex().row(), 0);
+        // Back to no query: the others return around the kept row.
+        model.setQuery({});
+        QCOMPARE(model.rowCount(), 8);
+        QCOMPARE(jonas.data(BookingListModel::IdRole).toString(), u"bk-006"_s);
     }
 
     // About's links are fixed at start; the tester checks them once.

@@ -52,6 +52,17 @@ private Q_SLOTS:
         QCOMPARE(Formats::relativeDay(0, u"en_US"_s), u"today"_s);
         QCOMPARE(Formats::relativeDay(3, u"en_US"_s), u"in 3 days"_s);
         QCOMPARE(Formats::relativeDay(2, u"de_DE"_s, Formats::Capitalization::startOfSentence), u"Übermorgen"_s);
+        // The largest unit that isn't zero, named where the language has a name for it.
+        const Instant now = at("2026-03-10T14:40:00Z");
+        const auto ago = [&](qint64 seconds) { return Formats::relativeTime(now.addSecs(-seconds), now, u"en_US"_s); };
+        QCOMPARE(ago(0), u"now"_s);
+        QCOMPARE(ago(10 * 3600), u"10 hours ago"_s);
+        QCOMPARE(ago(30 * 3600), u"yesterday"_s);
+        QCOMPARE(ago(4 * 86400), u"4 days ago"_s);
+        QCOMPARE(ago(8 * 86400), u"last week"_s);
+        QCOMPARE(ago(70 * 86400), u"2 months ago"_s);
+        QCOMPARE(ago(-3 * 3600), u"in 3 hours"_s);
+        QCOMPARE(Formats::mediumDateShortTime(now, u"en_US"_s, u"Europe/Berlin"_s), u"Mar 10, 2026, 3:40\u202FPM"_s);
         using W = Formats::WeekdayWidth;
         QCOMPARE(Formats::weekdaySymbols(u"en_US"_s, W::abbreviated, false).join(u' '),
                  u"Sun Mon Tue Wed Thu Fri Sat"_s);

@@ -39,9 +39,8 @@ QUORVANE_SCENES(bookings)
     Scene past = bookings(u"bookings-past-no-show"_s, 1, u"bk-026"_s);
     Scene cancelled = bookings(u"bookings-cancelled"_s, 2, {});
     Scene all = bookings(u"bookings-all-cancelled-selected"_s, 3, u"bk-008"_s);
-    Scene search = bookings(u"bookings-search-no-result"_s, 0, {}, [](Stage &stage) {
-        stage.set(u"bookingsModel"_s, "query", u"zeppelin"_s);
-    });
+    Scene search = bookings(u"bookings-search-no-result"_s, 0, {},
+                            [](Stage &stage) { stage.set(u"bookingsModel"_s, "query", u"zeppelin"_s); });
     Scene dialog = bookings(u"bookings-cancel-dialog"_s, 0, u"bk-003"_s, [](Stage &stage) {
         Stage::wait(100);
         stage.set(u"bookingDetail"_s, "confirmCancel", true);
