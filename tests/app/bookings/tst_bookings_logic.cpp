@@ -58,10 +58,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<Filter>("filter");
         QTest::addColumn<QStringList>("shown");
-        QTest::newRow("upcoming: soonest first, the running one included") << Filter::upcoming
-                                                                           << QStringList{u"running"_s, u"later"_s};
-        QTest::newRow("past: ended and confirmed, an end at now too") << Filter::past
-                                                                      << QStringList{u"endsNow"_s, u"ended"_s};
+        QTest::newRow("upcoming: soonest first, the running one included")
+            << Filter::upcoming << QStringList{u"running"_s, u"later"_s};
+        QTest::newRow("past: ended and confirmed, an end at now too")
+            << Filter::past << QStringList{u"endsNow"_s, u"ended"_s};
         QTest::newRow("cancelled") << Filter::cancelled << QStringList{u"cancelled"_s};
         QTest::newRow("all: the pending one that ended too")
             << Filter::all
@@ -71,12 +71,9 @@ private Q_SLOTS:
     {
         QFETCH(Filter, filter);
         const QList<Booking> all = {
-            booking(u"later"_s, 24 * 60),
-            booking(u"cancelled"_s, 60, BookingStatus::cancelled),
-            booking(u"running"_s, -10),
-            booking(u"endsNow"_s, -30),
-            booking(u"ended"_s, -120),
-            booking(u"pendingEnded"_s, -180, BookingStatus::pending),
+            booking(u"later"_s, 24 * 60), booking(u"cancelled"_s, 60, BookingStatus::cancelled),
+            booking(u"running"_s, -10),   booking(u"endsNow"_s, -30),
+            booking(u"ended"_s, -120),    booking(u"pendingEnded"_s, -180, BookingStatus::pending),
         };
         QTEST(ids(Bookings::filtered(all, filter, std::nullopt, {}, now, u"en_US"_s, title)), "shown");
     }

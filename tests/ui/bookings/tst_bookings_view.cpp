@@ -37,8 +37,8 @@ struct Rig : FixtureApp, View {
     [[nodiscard]] QStringList menuEntries() const
     {
         QStringList out;
-        for (const char *name : {"joinEntry", "copyEmailEntry", "emailEntry", "rescheduleEntry", "cancelEntry",
-                                 "noShowEntry"}) {
+        for (const char *name :
+             {"joinEntry", "copyEmailEntry", "emailEntry", "rescheduleEntry", "cancelEntry", "noShowEntry"}) {
             if (shows(QString::fromLatin1(name)))
                 out << text(QString::fromLatin1(name));
         }
@@ -96,8 +96,9 @@ private Q_SLOTS:
                                  << QStringList{u"Join Google Meet"_s, u"Copy Email"_s, u"Email Tomás"_s,
                                                 u"Copy Reschedule Message"_s, u"Cancel Booking…"_s};
         QTest::newRow("cancelled") << 3 << u"bk-008"_s << QStringList{u"Copy Email"_s, u"Email Sofia"_s};
-        QTest::newRow("past, a no-show")
-            << 1 << u"bk-026"_s << QStringList{u"Join Google Meet"_s, u"Copy Email"_s, u"Email Sofia"_s, u"Clear No-show"_s};
+        QTest::newRow("past, a no-show") << 1 << u"bk-026"_s
+                                         << QStringList{u"Join Google Meet"_s, u"Copy Email"_s, u"Email Sofia"_s,
+                                                        u"Clear No-show"_s};
         QTest::newRow("past") << 1 << u"bk-021"_s
                               << QStringList{u"Join Google Meet"_s, u"Copy Email"_s, u"Email Hannah"_s,
                                              u"Mark as No-show"_s};
@@ -157,7 +158,8 @@ private Q_SLOTS:
         QCOMPARE(rig.bookings()->property("count").toInt(), 1);
         rig.type(u"x"_s);
         QVERIFY(rig.shows(u"bookingsEmpty"_s));
-        QCOMPARE(rig.item(u"bookingsEmpty"_s)->property("title").toString(), u"No results for \u201Cferreira.ptx\u201D"_s);
+        QCOMPARE(rig.item(u"bookingsEmpty"_s)->property("title").toString(),
+                 u"No results for \u201Cferreira.ptx\u201D"_s);
         rig.key(Qt::Key_Escape);
         QCOMPARE(rig.bookings()->property("count").toInt(), 8);
         rig.model().setSection(AppSection::today);
