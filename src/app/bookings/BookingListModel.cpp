@@ -68,7 +68,9 @@ void BookingListModel::rebuild()
 {
     QList<Row> next;
     if (const AppModel *model = app()) {
+        next.reserve(m_rows.size());
         const Instant now = model->now();
+        m_now = now;
         QHash<QString, QString> titles;
         const auto typeTitle = [&](const QString &slug) {
             auto found = titles.find(slug);
@@ -76,20 +78,20 @@ void BookingListModel::rebuild()
                 found = titles.insert(slug, model->typeTitle(slug));
             return *found;
         };
-        const QList<Booking> shown =
+        QList<Booking> shown =
             Bookings::filtered(model->allBookings(), m_filter, m_typeFilter, m_query, now, model->locale(), typeTitle);
         QHash<QString, QString> colors;
-        for (Bookings::Day &day : Bookings::grouped(shown, m_filter, model->zone())) {
+        for (Bookings::Day &day : Bookings::grouped(std::move(shown), m_filter, model->zone())) {
             bool first = true;
             for (Booking &b : day.bookings) {
                 auto color = colors.find(b.type);
                 if (color == colors.end())
                     color = colors.insert(b.type, model->typeColorHex(b.type));
                 QString title = typeTitle(b.type);
-                Row row{std::move(b), day.day, std::exchange(first, false), std::move(title), *color, {}, {}};
-                row.status = StatusLabel::of(row.booking, now);
-                row.actions = Bookings::actions(row.booking, now);
-                next.append(std::move(row));
+                const bool ahead = b.end > now;
+                const bool ended = b.end < now;
+                next.append(
+                    Row{std::move(b), day.day, std::exchange(first, false), std::move(title), *color, ahead, ended});
             }
         }
     }
@@ -114,6 +116,9 @@ QVariant BookingListModel::data(const QModelIndex &index, int role) const
         return {};
     const Row &row = m_rows.at(index.row());
     const Booking &b = row.booking;
+    // Worked out for the role asked for only: a link is parsed for the actions.
+    const auto status = [&] { return StatusLabel::of(b, m_now); };
+    const auto actions = [&] { return Bookings::actions(b, m_now); };
     const auto detail = [&] {
         return u"%1 \u00B7 %2"_s.arg(Formats::format(b.start, u"jmm"_s, model->locale(), model->zone()), row.typeTitle);
     };
@@ -130,30 +135,30 @@ QVariant BookingListModel::data(const QModelIndex &index, int role) const
     case ColorRole:
         return HexColor::parse(row.colorHex);
     case StatusRole:
-        return row.status ? row.status->text : QString();
+        return status() ? status()->text : QString();
     case StatusTintRole:
-        return Tints::color(row.status ? row.status->tint : Tint::secondary);
+        return Tints::color(status() ? status()->tint : Tint::secondary);
     case CancelledRole:
         return b.status == BookingStatus::cancelled;
     case ShowsVideoRole:
-        return row.actions.join;
+        return actions().join;
     case AccessibleRole: {
         QStringList parts{b.name};
-        if (row.status)
-            parts << row.status->text;
+        if (const std::optional<StatusLabel> label = status())
+            parts << label->text;
         parts << detail();
-        if (row.actions.join)
+        if (actions().join)
             parts << u"Has Google Meet link"_s;
         return parts.join(u", "_s);
     }
     case EmailLabelRole:
         return Bookings::emailLabel(b.name);
     case CanJoinRole:
-        return row.actions.join;
+        return actions().join;
     case CanRescheduleRole:
-        return row.actions.reschedule;
+        return actions().reschedule;
     case NoShowTitleRole:
-        if (!row.actions.noShow)
+        if (!actions().noShow)
             return QString();
         return b.noShow.value_or(false) ? u"Clear No-show"_s : u"Mark as No-show"_s;
     default:

@@ -100,13 +100,16 @@ private:
         bool firstOfDay = false;
         QString typeTitle;
         QString colorHex;
-        std::optional<StatusLabel> status;
-        Bookings::Actions actions;
+        // Where the booking stood at the last rebuild: what its pill and menu depend on
+        // besides the booking itself. The rest is worked out when a view asks.
+        bool ahead = false; // it ends after now
+        bool ended = false; // it ended before now
         bool operator==(const Row &) const = default;
     };
     [[nodiscard]] const Booking *at(int row) const;
     [[nodiscard]] QString dayTitle(QDate day) const;
 
+    Instant m_now;
     QString m_query;
     Bookings::Filter m_filter = Bookings::Filter::upcoming;
     std::optional<QString> m_typeFilter;

@@ -4,10 +4,11 @@
 #include "TextSearch.h"
 
 #include <QHash>
-#include <QMap>
 #include <QTimeZone>
 
 #include <algorithm>
+#include <limits>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -43,6 +44,43 @@ bool matches(const Booking &b, const TextSearch &search, const QString &typeTitl
     return search.foundIn(b.name) || search.foundIn(b.email) || search.foundIn(notes) || search.foundIn(typeTitle);
 }
 
+// The local calendar day of instants in one zone. The zone's offset is looked up once per
+// stretch between two changes of its clocks, so that thousands of bookings, which come
+// sorted, cost a few lookups and not one each.
+class LocalDays
+{
+public:
+    explicit LocalDays(const QString &zone)
+        : m_zone(zone.toUtf8())
+    {}
+
+    QDate of(const Instant &instant)
+    {
+        const qint64 seconds = instant.toSecsSinceEpoch();
+        if (seconds < m_from || seconds >= m_until)
+            lookUp(instant);
+        constexpr qint64 unixEpochJulianDay = 2440588;
+        return QDate::fromJulianDay(unixEpochJulianDay + floorDiv(seconds + m_offset, 86400));
+    }
+
+private:
+    static qint64 floorDiv(qint64 a, qint64 b) { return a / b - (a % b < 0 ? 1 : 0); }
+
+    void lookUp(const Instant &instant)
+    {
+        m_offset = m_zone.offsetFromUtc(instant);
+        const QTimeZone::OffsetData before = m_zone.previousTransition(instant.addSecs(1));
+        const QTimeZone::OffsetData after = m_zone.nextTransition(instant);
+        m_from = before.atUtc.isValid() ? before.atUtc.toSecsSinceEpoch() : std::numeric_limits<qint64>::min();
+        m_until = after.atUtc.isValid() ? after.atUtc.toSecsSinceEpoch() : std::numeric_limits<qint64>::max();
+    }
+
+    QTimeZone m_zone;
+    qint64 m_offset = 0;
+    qint64 m_from = 0;
+    qint64 m_until = 0; // empty at first
+};
+
 } // namespace
 
 QList<Filter> allFilters()
@@ -71,6 +109,7 @@ QList<Booking> filtered(const QList<Booking> &all, Filter filter, const std::opt
     const TextSearch search(query, locale);
     QHash<QString, QString> titles; // by slug: a few types among thousands of bookings
     QList<Booking> out;
+    out.reserve(all.size());
     for (const Booking &b : all) {
         if (!shows(b, filter, now) || (typeFilter && b.type != *typeFilter))
             continue;
@@ -88,18 +127,25 @@ QList<Booking> filtered(const QList<Booking> &all, Filter filter, const std::opt
     return out;
 }
 
-QList<Day> grouped(const QList<Booking> &filtered, Filter filter, const QString &zone)
+QList<Day> grouped(QList<Booking> filtered, Filter filter, const QString &zone)
 {
-    const QTimeZone timeZone(zone.toUtf8());
-    QMap<QDate, QList<Booking>> byDay;
-    for (const Booking &b : filtered)
-        byDay[b.start.toTimeZone(timeZone).date()].append(b);
+    // Each booking's day, then the bookings in the order of their days; a stable sort keeps
+    // the filtered order within a day.
+    LocalDays days(zone);
+    std::vector<std::pair<QDate, qsizetype>> keyed;
+    keyed.reserve(size_t(filtered.size()));
+    for (qsizetype i = 0; i < filtered.size(); ++i)
+        keyed.emplace_back(days.of(filtered.at(i).start), i);
+    const bool ascending = filter == Filter::upcoming;
+    std::stable_sort(keyed.begin(), keyed.end(), [ascending](const auto &a, const auto &b) {
+        return ascending ? a.first < b.first : a.first > b.first;
+    });
     QList<Day> out;
-    out.reserve(byDay.size());
-    for (auto it = byDay.begin(); it != byDay.end(); ++it)
-        out.append(Day{it.key(), std::move(it.value())});
-    if (filter != Filter::upcoming)
-        std::reverse(out.begin(), out.end());
+    for (const auto &[day, i] : keyed) {
+        if (out.isEmpty() || out.last().day != day)
+            out.append(Day{day, {}});
+        out.last().bookings.append(std::move(filtered[i]));
+    }
     return out;
 }
 

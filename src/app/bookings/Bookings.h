@@ -38,7 +38,7 @@ struct Day {
 
 // The filtered bookings by the local day of their start: the days ascending for `upcoming`,
 // the most recent first otherwise. Each day keeps the filtered order.
-[[nodiscard]] QList<Day> grouped(const QList<Booking> &filtered, Filter filter, const QString &zone);
+[[nodiscard]] QList<Day> grouped(QList<Booking> filtered, Filter filter, const QString &zone);
 
 // The start as the guest sees it: "Mar 10, 2026, 3:30 PM (Europe/Berlin)". A zone the
 // machine doesn't know gives way to `machineZone`, whose name then shows.

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
+#include <QSet>
 #include <QTimeZone>
 
 #include <algorithm>
@@ -41,7 +42,7 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
              && m_env.clipboard);
     m_needsSignIn = !signedInNow();
     m_snapshot = (m_env.savedSnapshot.valid() ? m_env.savedSnapshot.get() : m_cache.load()).value_or(Snapshot());
-    sortUpcoming();
+    sortBookings();
 
     QFile trackerFile(trackerPath());
     if (trackerFile.open(QIODevice::ReadOnly)) {
@@ -83,7 +84,7 @@ void AppModel::run(QCoro::Task<> &&task)
 void AppModel::setSnapshot(Snapshot snapshot)
 {
     m_snapshot = std::move(snapshot);
-    sortUpcoming();
+    sortBookings();
     Q_EMIT snapshotChanged();
 }
 
@@ -201,9 +202,9 @@ QList<EventType> AppModel::activeTypes() const
     return out;
 }
 
-// The screens ask for the upcoming list many times a minute; it is sorted once per snapshot,
-// and each ask only drops what has ended by then.
-void AppModel::sortUpcoming()
+// The screens ask for these lists many times a minute; they are sorted once per snapshot, and
+// each ask for the upcoming one only drops what has ended by then.
+void AppModel::sortBookings()
 {
     m_activeByStart.clear();
     for (const Booking &b : std::as_const(m_snapshot.upcoming)) {
@@ -211,6 +212,20 @@ void AppModel::sortUpcoming()
             m_activeByStart.append(b);
     }
     std::stable_sort(m_activeByStart.begin(), m_activeByStart.end(), byStart);
+
+    // Every booking once, newest first; a booking in both lists is taken from the upcoming one.
+    QSet<QString> seen;
+    m_allBookings.clear();
+    for (const QList<Booking> *list : {&m_snapshot.upcoming, &m_snapshot.history}) {
+        for (const Booking &b : *list) {
+            if (!seen.contains(b.id)) {
+                seen.insert(b.id);
+                m_allBookings.append(b);
+            }
+        }
+    }
+    std::stable_sort(m_allBookings.begin(), m_allBookings.end(),
+                     [](const Booking &a, const Booking &b) { return a.start > b.start; });
 }
 
 QList<Booking> AppModel::upcoming() const
@@ -252,14 +267,7 @@ std::optional<Booking> AppModel::next() const
 
 QList<Booking> AppModel::allBookings() const
 {
-    QHash<QString, Booking> byId;
-    for (const Booking &b : m_snapshot.history)
-        byId.insert(b.id, b);
-    for (const Booking &b : m_snapshot.upcoming)
-        byId.insert(b.id, b);
-    QList<Booking> out = byId.values();
-    std::sort(out.begin(), out.end(), [](const Booking &a, const Booking &b) { return a.start > b.start; });
-    return out;
+    return m_allBookings;
 }
 
 std::optional<Booking> AppModel::booking(const QString &id) const

@@ -189,7 +189,8 @@ private:
     [[nodiscard]] bool signedInNow() const { return m_keychain.token().has_value(); }
     [[nodiscard]] QString offlineMessage() const;
     void saveTracker() const;
-    void sortUpcoming();
+    // Orders the new snapshot's bookings once, for the lists that read them at every redraw.
+    void sortBookings();
     [[nodiscard]] QString trackerPath() const;
     void openURL(const QUrl &url) const;
 
@@ -229,6 +230,7 @@ private:
 
     Snapshot m_snapshot;
     QList<Booking> m_activeByStart; // the snapshot's active upcoming bookings, by start
+    QList<Booking> m_allBookings;   // every booking of the snapshot once, newest first
     std::optional<HostSettings> m_draftSettings;
     bool m_loading = false;
     bool m_firstLoadDone = false;
