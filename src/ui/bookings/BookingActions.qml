@@ -18,42 +18,36 @@ Menu {
         popup(item, item.width / 3, item.height / 2)
     }
 
-    // Hidden entries take no room.
-    component Entry: MenuItem {
-        height: visible ? implicitHeight : 0
-    }
-
-    Entry {
+    PlainMenuItem {
         objectName: "joinEntry"
         text: qsTr("Join Google Meet")
         visible: root.rowItem !== null && root.rowItem.canJoin
         onTriggered: root.bookings.join(root.row)
     }
-    Entry {
+    PlainMenuItem {
         objectName: "copyEmailEntry"
         text: qsTr("Copy Email")
         onTriggered: root.bookings.copyEmail(root.row)
     }
-    Entry {
+    PlainMenuItem {
         objectName: "emailEntry"
         text: root.rowItem !== null ? root.rowItem.emailLabel : ""
         onTriggered: root.bookings.email(root.row)
     }
-    Entry {
+    PlainMenuItem {
         objectName: "rescheduleEntry"
         text: qsTr("Copy Reschedule Message")
         visible: root.rowItem !== null && root.rowItem.canReschedule
         onTriggered: root.bookings.rescheduleMessage(root.row)
     }
-    Entry {
+    PlainMenuItem {
         objectName: "cancelEntry"
         text: qsTr("Cancel Booking…")
         visible: root.rowItem !== null && root.rowItem.canReschedule
-        palette.windowText: Style.red
-        palette.text: Style.red
+        textColor: highlighted ? palette.highlightedText : Style.red
         onTriggered: root.bookings.cancel(root.row)
     }
-    Entry {
+    PlainMenuItem {
         objectName: "noShowEntry"
         text: root.rowItem !== null ? root.rowItem.noShowTitle : ""
         visible: text.length > 0

@@ -37,8 +37,21 @@ Pane {
             objectName: "typeMenuButton"
             flat: true
             text: root.bookings.typeMenuTitle
-            icon.source: Style.icon("line.3.horizontal.decrease.circle", palette.buttonText)
             font.pixelSize: Typography.callout
+            // A type's title comes from the server: plain text.
+            contentItem: RowLayout {
+                spacing: Style.spaceXS
+                Icon {
+                    name: "line.3.horizontal.decrease.circle"
+                    size: 14
+                    color: palette.buttonText
+                }
+                Label {
+                    text: typeButton.text
+                    textFormat: Text.PlainText
+                    font: typeButton.font
+                }
+            }
             onClicked: typeMenu.popup(typeButton, 0, typeButton.height)
             Accessible.name: qsTr("Filter by event type")
             Accessible.description: text
@@ -47,14 +60,14 @@ Pane {
                 id: typeMenu
                 objectName: "typeMenu"
 
-                MenuItem {
+                PlainMenuItem {
                     text: qsTr("All event types")
                     onTriggered: root.bookings.typeFilter = ""
                 }
                 MenuSeparator {}
                 Instantiator {
                     model: types
-                    delegate: MenuItem {
+                    delegate: PlainMenuItem {
                         required property string slug
                         required property string title
                         text: title

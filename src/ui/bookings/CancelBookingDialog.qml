@@ -17,6 +17,17 @@ Dialog {
     modal: true
     focus: true
 
+    // The title names the guest and the type, both from the server: plain text.
+    header: Label {
+        topPadding: root.padding
+        leftPadding: root.padding
+        rightPadding: root.padding
+        text: root.title
+        textFormat: Text.PlainText
+        wrapMode: Text.WordWrap
+        font.bold: true
+    }
+
     Label {
         width: root.availableWidth
         text: root.message
