@@ -43,8 +43,10 @@ private:
     std::shared_ptr<HTTPTransport> m_inner;
 };
 
-struct QuietClipboard : Clipboard {
-    void setText(const QString &) override {}
+// Keeps what was copied, for tests that read it back.
+struct KeptClipboard : Clipboard {
+    void setText(const QString &text) override { texts.append(text); }
+    QStringList texts;
 };
 
 // One application model against an in-process sandbox on loopback, the real keyring of the
@@ -83,7 +85,7 @@ public:
     std::unique_ptr<Preferences> preferences;
     QNetworkAccessManager network;
     std::shared_ptr<RecordingTransport> transport;
-    QuietClipboard clipboard;
+    KeptClipboard clipboard;
     QList<QUrl> opened;
     UrlOpener opener;
     QString dataDirectory;

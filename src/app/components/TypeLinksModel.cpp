@@ -45,6 +45,8 @@ QVariant TypeLinksModel::data(const QModelIndex &index, int role) const
         return type.title;
     case MinutesRole:
         return u"%1m"_s.arg(type.minutes);
+    case ChoiceRole:
+        return u"%1 (%2 min)"_s.arg(type.title).arg(type.minutes);
     case ColorRole:
         return HexColor::parse(type.colorHex);
     case LinkRole:
@@ -65,6 +67,7 @@ QHash<int, QByteArray> TypeLinksModel::roleNames() const
     return {{SlugRole, "slug"},
             {TitleRole, "title"},
             {MinutesRole, "minutes"},
+            {ChoiceRole, "choice"},
             {ColorRole, "typeColor"},
             {LinkRole, "link"},
             {ToolTipRole, "toolTip"},

@@ -26,6 +26,7 @@ public:
         ToolTipRole,             // "Copy {link}"
         AccessibleNameRole,      // "Copy link for {title}", a row that also shows the link's icon
         ShortAccessibleNameRole, // "Copy {title} link", a small button in a grid
+        ChoiceRole,              // "Intro Call (15 min)", an entry of a choice of types
     };
     Q_ENUM(Role)
 

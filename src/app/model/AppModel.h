@@ -151,6 +151,8 @@ public:
     void rescheduleMessage(const Booking &booking);
     // A new message to the guest in the default mail program.
     void email(const Booking &booking);
+    // Opens a link in its default program, through the opener that allows web and mail links only.
+    void openURL(const QUrl &url) const;
     [[nodiscard]] QString rescheduleText(const Booking &booking) const;
     void copy(const QString &text);
     // The one way the client changes the host's settings: at once in the draft, on the
@@ -192,7 +194,6 @@ private:
     // Orders the new snapshot's bookings once, for the lists that read them at every redraw.
     void sortBookings();
     [[nodiscard]] QString trackerPath() const;
-    void openURL(const QUrl &url) const;
 
     void setSnapshot(Snapshot snapshot);
     void setDraftSettings(std::optional<HostSettings> draft);

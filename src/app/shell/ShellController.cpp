@@ -26,6 +26,11 @@ QQmlComponent *ShellController::windowContent(AppWindow::Id window, QObject *use
     return component(user, ViewTable::content(window));
 }
 
+QQmlComponent *ShellController::newPollSheet(QObject *user)
+{
+    return component(user, ViewTable::newPollSheet());
+}
+
 QQmlComponent *ShellController::component(QObject *user, const QmlType &type)
 {
     QQmlEngine *engine = qmlEngine(user);

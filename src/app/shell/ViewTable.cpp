@@ -11,9 +11,10 @@ QmlType section(AppSection section)
         return {u"Quorvane.Today"_s, u"TodayView"_s};
     case AppSection::bookings:
         return {u"Quorvane.Bookings"_s, u"BookingsView"_s};
+    case AppSection::polls:
+        return {u"Quorvane.Polls"_s, u"PollsView"_s};
     case AppSection::types:
     case AppSection::availability:
-    case AppSection::polls:
     case AppSection::insights:
         break;
     }
@@ -52,6 +53,11 @@ QmlType content(AppWindow::Id window)
     return {};
 }
 
+QmlType newPollSheet()
+{
+    return {u"Quorvane.Polls"_s, u"NewPollSheet"_s};
+}
+
 QmlType popover()
 {
     return {u"Quorvane.Tray"_s, u"MenuBarPopover"_s};
@@ -64,7 +70,7 @@ QList<QmlType> all()
         out << section(s);
     for (const AppWindow::Id w : AppWindow::all())
         out << window(w) << content(w);
-    out << popover();
+    out << newPollSheet() << popover();
     out.removeIf([](const QmlType &type) { return type.isNull(); });
     return out;
 }

@@ -17,6 +17,8 @@ namespace ViewTable {
 [[nodiscard]] QmlType window(AppWindow::Id window);
 // What fills a window whose frame belongs to the shell (everything but the main window).
 [[nodiscard]] QmlType content(AppWindow::Id window);
+// The sheet over the main window that makes a new poll.
+[[nodiscard]] QmlType newPollSheet();
 // The tray icon's popover.
 [[nodiscard]] QmlType popover();
 // Every row above, for the self-test to make each once.

@@ -178,9 +178,10 @@ ScrollView {
     }
     }
 
-    CancelBookingDialog {
+    ConfirmDialog {
         id: cancelDialog
         objectName: "cancelDialog"
+        actionText: qsTr("Cancel Booking")
         title: root.detail.cancelTitle
         message: root.detail.cancelMessage
         onConfirmed: root.detail.cancel()

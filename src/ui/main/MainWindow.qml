@@ -109,11 +109,12 @@ ApplicationWindow {
         onActivated: App.showPalette = false
     }
 
-    // The new-poll sheet, shown while asked for; the polls screen sets this loader's source.
+    // The new-poll sheet, made each time it is asked for, from any section.
     Loader {
         id: newPollSheetSlot
         objectName: "newPollSheetSlot"
         active: App.showNewPoll
+        sourceComponent: active ? Shell.newPollSheet(window) : null
     }
 
     menuBar: AppMenuBar {}

@@ -85,9 +85,9 @@ private Q_SLOTS:
         View &view = *rig.view;
         QTRY_VERIFY(view.shows(u"cancelButton"_s));
         view.click(u"cancelButton"_s);
-        QTRY_VERIFY(view.shows(u"confirmCancel"_s));
+        QTRY_VERIFY(view.shows(u"confirmAction"_s));
         QCOMPARE(rig.status(b), BookingStatus::confirmed); // nothing yet
-        view.click(u"confirmCancel"_s);
+        view.click(u"confirmAction"_s);
         QTRY_COMPARE(rig.status(b), BookingStatus::cancelled);
         QTRY_VERIFY(rig.banners.contains(u"Booking cancelled. Ann Lee was notified."_s));
         QVERIFY(!view.shows(u"cancelButton"_s));
@@ -137,8 +137,8 @@ private Q_SLOTS:
         View &view = *rig.view;
         QTRY_VERIFY(view.shows(u"cancelButton"_s));
         view.click(u"cancelButton"_s);
-        QTRY_VERIFY(view.shows(u"confirmCancel"_s));
-        view.click(u"confirmCancel"_s);
+        QTRY_VERIFY(view.shows(u"confirmAction"_s));
+        view.click(u"confirmAction"_s);
         QTRY_VERIFY_WITH_TIMEOUT(rig.model->banner().has_value(), 10000);
         QCOMPARE(rig.model->banner()->kind, Banner::Kind::error);
         QVERIFY(!rig.banners.join(u' ').contains(u"cancelled"_s));

@@ -173,9 +173,9 @@ private Q_SLOTS:
         QVERIFY(rig.open());
         rig.model().setSelectedBooking(u"bk-003"_s);
         rig.key(Qt::Key_Delete, Qt::ControlModifier);
-        QTRY_VERIFY(rig.shows(u"confirmCancel"_s));
+        QTRY_VERIFY(rig.shows(u"confirmAction"_s));
         rig.key(Qt::Key_Escape);
-        QTRY_VERIFY(!rig.shows(u"confirmCancel"_s));
+        QTRY_VERIFY(!rig.shows(u"confirmAction"_s));
         QTest::qWait(50);
         QCOMPARE(rig.transport().data.upcoming.at(2).status, BookingStatus::confirmed);
         QVERIFY(!rig.model().banner());

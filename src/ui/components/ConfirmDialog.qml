@@ -1,13 +1,13 @@
 import QtQuick
 import QtQuick.Controls
-import Quorvane.Components
 
-// Asks before a booking is cancelled: the guest is told by e-mail, so the step can't be
-// taken back. Escape or "Cancel" leaves the booking alone.
+// Asks before a step that can't be taken back, such as cancelling a booking or deleting a
+// poll. The action's button is red; Escape or "Cancel" leaves everything as it was.
 Dialog {
     id: root
 
     property string message
+    property string actionText
 
     signal confirmed()
 
@@ -17,7 +17,7 @@ Dialog {
     modal: true
     focus: true
 
-    // The title names the guest and the type, both from the server: plain text.
+    // The title may name things from the server: plain text.
     header: Label {
         topPadding: root.padding
         leftPadding: root.padding
@@ -37,8 +37,8 @@ Dialog {
 
     footer: DialogButtonBox {
         Button {
-            objectName: "confirmCancel"
-            text: qsTr("Cancel Booking")
+            objectName: "confirmAction"
+            text: root.actionText
             palette.buttonText: Style.red
             DialogButtonBox.buttonRole: DialogButtonBox.DestructiveRole
             onClicked: {
@@ -47,7 +47,7 @@ Dialog {
             }
         }
         Button {
-            objectName: "dismissCancel"
+            objectName: "dismissAction"
             text: qsTr("Cancel")
             DialogButtonBox.buttonRole: DialogButtonBox.RejectRole
         }
