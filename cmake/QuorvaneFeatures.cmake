@@ -9,6 +9,7 @@ set(QUORVANE_FEATURES
     today
     bookings
     polls
+    insights
     tray
     onboarding
     about

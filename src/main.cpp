@@ -132,8 +132,12 @@ int main(int argc, char *argv[])
     engine.addImportPath(u"qrc:/qt/qml"_s);
     engine.addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
     const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
-    if (options.selfTest)
-        return SelfTest(engine, started).run(root, SelfTest::qmlFiles(), ViewTable::all());
+    if (options.selfTest) {
+        SelfTest test(engine, started);
+        if (const std::optional<AppSection> section = Section::fromId(options.selfTestSection.value_or(QString())))
+            test.timeOpening([&model, section] { model.setSection(*section); });
+        return test.run(root, SelfTest::qmlFiles(), ViewTable::all());
+    }
 
     engine.load(root);
     if (engine.rootObjects().isEmpty())

@@ -45,7 +45,9 @@ QVariant PollOptionsModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid) || !app())
         return {};
     const Row &row = m_rows.at(index.row());
-    const auto time = [&] { return Formats::format(row.option.start, u"EEEMMMdjmm"_s, app()->locale(), app()->zone()); };
+    const auto time = [&] {
+        return Formats::format(row.option.start, u"EEEMMMdjmm"_s, app()->locale(), app()->zone());
+    };
     switch (role) {
     case Qt::DisplayRole:
     case TimeRole:
@@ -57,7 +59,8 @@ QVariant PollOptionsModel::data(const QModelIndex &index, int role) const
     case LeadsRole:
         return Polls::leads(row.option.votes, row.top);
     case AccessibleRole:
-        return row.option.votes == 1 ? u"%1, 1 vote"_s.arg(time()) : u"%1, %2 votes"_s.arg(time()).arg(row.option.votes);
+        return row.option.votes == 1 ? u"%1, 1 vote"_s.arg(time())
+                                     : u"%1, %2 votes"_s.arg(time()).arg(row.option.votes);
     default:
         return {};
     }

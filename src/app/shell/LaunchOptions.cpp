@@ -52,8 +52,10 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
     const QCommandLineOption share(u"share"_s, u"Open Share Times (in the running Quorvane, if any)."_s);
     const QCommandLineOption open(u"open"_s, u"Open a window: %1."_s.arg(windowIds().join(u", "_s)), u"ID"_s);
     const QCommandLineOption selfTest(u"self-test"_s, u"Load the interface, draw it once, report and exit."_s);
+    const QCommandLineOption selfTestSection(
+        u"self-test-section"_s, u"In the self-test, also time the first opening of a section."_s, u"SECTION"_s);
     const QCommandLineOption hidden(u"hidden"_s, u"Start in the tray without opening a window."_s);
-    parser.addOptions({help, version, server, share, open, selfTest, hidden});
+    parser.addOptions({help, version, server, share, open, selfTest, selfTestSection, hidden});
 
     if (!parser.parse(arguments))
         return stop(2, parser.errorText());
@@ -71,7 +73,9 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
             return stop(2, u"--server needs an http or https address without a path, such as https://example.com"_s);
         out.server = url;
     }
-    out.selfTest = parser.isSet(selfTest);
+    out.selfTest = parser.isSet(selfTest) || parser.isSet(selfTestSection);
+    if (parser.isSet(selfTestSection))
+        out.selfTestSection = parser.value(selfTestSection);
     out.hidden = parser.isSet(hidden) && !out.selfTest;
     if (parser.isSet(open)) {
         out.window = parser.value(open);

@@ -10,9 +10,10 @@ namespace quorvane {
 // What the command line asks of this launch. Every request names a window that the running
 // instance opens: a plain launch asks for "main", `--share` for "share", `--open ID` for ID.
 struct LaunchOptions {
-    std::optional<QString> server; // becomes the "serverURL" preference before the model starts
-    bool selfTest = false;         // load every QML file, draw the main window once, report, exit
-    bool hidden = false;           // start in the tray with no window open
+    std::optional<QString> server;          // becomes the "serverURL" preference before the model starts
+    bool selfTest = false;                  // load every QML file, draw the main window once, report, exit
+    std::optional<QString> selfTestSection; // also time a section's first opening in the self-test
+    bool hidden = false;                    // start in the tray with no window open
     QString window = QStringLiteral("main");
 
     // Set when the launch ends here: help or version (exit 0) or a mistake (exit 2).

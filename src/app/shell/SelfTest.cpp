@@ -85,6 +85,8 @@ int SelfTest::run(const QUrl &root, const QStringList &files, const QList<QmlTyp
     else
         waitForFirstFrame(timeoutMs);
     const std::optional<qint64> resident = ProcessStats::residentKiB();
+    if (m_open && m_main)
+        m_openingMs = timeOpening(m_main, timeoutMs);
     compile(files);
     compileViews(views);
 
@@ -92,8 +94,11 @@ int SelfTest::run(const QUrl &root, const QStringList &files, const QList<QmlTyp
         std::fprintf(stderr, "self-test: %s\n", qPrintable(problem));
     if (!m_problems.isEmpty())
         return 1;
-    std::printf("self-test: %d QML files compiled; first frame after %lld ms; resident %lld KiB\n", int(files.size()),
+    std::printf("self-test: %d QML files compiled; first frame after %lld ms; resident %lld KiB", int(files.size()),
                 static_cast<long long>(m_firstFrameMs), static_cast<long long>(resident.value_or(-1)));
+    if (m_open)
+        std::printf("; section opened in %lld ms", static_cast<long long>(m_openingMs));
+    std::printf("\n");
     std::fflush(stdout);
     return 0;
 }
@@ -132,6 +137,7 @@ void SelfTest::waitForFirstFrame(int timeoutMs)
         m_problems.append(u"no window named \"main\""_s);
         return;
     }
+    m_main = main;
     QEventLoop loop;
     connect(main, &QQuickWindow::frameSwapped, &loop, [this, &loop] {
         if (m_firstFrameMs < 0)
@@ -147,6 +153,26 @@ void SelfTest::waitForFirstFrame(int timeoutMs)
     // Bindings that run just after the first frame (the model starting) get to warn too.
     QTimer::singleShot(graceMs, &loop, &QEventLoop::quit);
     loop.exec();
+}
+
+qint64 SelfTest::timeOpening(QQuickWindow *main, int timeoutMs)
+{
+    QEventLoop loop;
+    QElapsedTimer timer;
+    qint64 elapsed = -1;
+    const QMetaObject::Connection drawn = connect(main, &QQuickWindow::frameSwapped, &loop, [&] {
+        elapsed = timer.elapsed();
+        loop.quit();
+    });
+    QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
+    timer.start();
+    m_open();
+    main->update();
+    loop.exec();
+    disconnect(drawn);
+    if (elapsed < 0)
+        m_problems.append(u"the opened section drew nothing within %1 ms"_s.arg(timeoutMs));
+    return elapsed;
 }
 
 } // namespace quorvane

@@ -3,9 +3,12 @@
 #include "shell/QmlType.h"
 
 #include <QElapsedTimer>
+#include <QQuickWindow>
+
 #include <QObject>
 #include <QStringList>
 #include <QUrl>
+#include <functional>
 
 class QQmlEngine;
 class QQmlApplicationEngine;
@@ -33,6 +36,10 @@ public:
     // exit code.
     int run(const QUrl &root, const QStringList &files, const QList<QmlType> &views, int timeoutMs = 30'000);
 
+    // After the first frame, the self-test calls `open` and times the main window's next frame:
+    // how long a section takes to show the first time. The report gives it too.
+    void timeOpening(std::function<void()> open) { m_open = std::move(open); }
+
     [[nodiscard]] const QStringList &problems() const { return m_problems; }
     [[nodiscard]] qint64 firstFrameMs() const { return m_firstFrameMs; }
 
@@ -40,12 +47,17 @@ private:
     void compileViews(const QList<QmlType> &views);
     void compile(const QStringList &files);
     void waitForFirstFrame(int timeoutMs);
+    // The time from `m_open` to the main window's next frame, or -1.
+    qint64 timeOpening(QQuickWindow *main, int timeoutMs);
     static void onMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
     QQmlApplicationEngine &m_engine;
     QElapsedTimer m_started;
     QStringList m_problems;
     qint64 m_firstFrameMs = -1;
+    std::function<void()> m_open;
+    qint64 m_openingMs = -1;
+    QQuickWindow *m_main = nullptr;
 };
 
 } // namespace quorvane

@@ -13,9 +13,10 @@ QmlType section(AppSection section)
         return {u"Quorvane.Bookings"_s, u"BookingsView"_s};
     case AppSection::polls:
         return {u"Quorvane.Polls"_s, u"PollsView"_s};
+    case AppSection::insights:
+        return {u"Quorvane.Insights"_s, u"InsightsView"_s};
     case AppSection::types:
     case AppSection::availability:
-    case AppSection::insights:
         break;
     }
     return {};

@@ -9,6 +9,7 @@
 
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
+#include <unicode/numfmt.h>
 #include <unicode/reldatefmt.h>
 #include <unicode/smpdtfmt.h>
 
@@ -169,6 +170,19 @@ QString relativeTime(const Instant &then, const Instant &now, const QString &loc
     icu::UnicodeString out;
     formatter.format(double(difference / chosen.seconds), chosen.unit, out, status);
     return U_SUCCESS(status) ? fromICU(out) : QString();
+}
+
+QString percent(double share, const QString &locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::NumberFormat> formatter(
+        icu::NumberFormat::createPercentInstance(ICUBridge::locale(locale), status));
+    if (U_FAILURE(status) || !formatter)
+        return {};
+    formatter->setMaximumFractionDigits(0);
+    icu::UnicodeString out;
+    formatter->format(share, out);
+    return fromICU(out);
 }
 
 QStringList weekdaySymbols(const QString &locale, WeekdayWidth width, bool standalone)

@@ -40,6 +40,10 @@ enum class Capitalization { middleOfSentence, startOfSentence };
 // locale's names where it has them: "now", "yesterday", "last week", "in 3 hours", "2 months ago".
 [[nodiscard]] QString relativeTime(const Instant &then, const Instant &now, const QString &locale);
 
+// A share as a whole percentage in the locale's way: 0.125 gives "13%" in en_US, "13 %" in
+// de_DE. Shares above 1 are shown as they are.
+[[nodiscard]] QString percent(double share, const QString &locale);
+
 enum class WeekdayWidth { narrow, abbreviated, wide }; // "T", "Tue", "Tuesday"
 
 // The seven weekday names, Sunday first. Standalone forms are for labels on their own

@@ -41,8 +41,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("top");
         QTest::addColumn<QList<double>>("shares");
         QTest::addColumn<QList<bool>>("green");
-        QTest::newRow("no votes: no share, none green") << QList<int>{0, 0} << 0 << QList<double>{0, 0}
-                                                        << QList<bool>{false, false};
+        QTest::newRow("no votes: no share, none green")
+            << QList<int>{0, 0} << 0 << QList<double>{0, 0} << QList<bool>{false, false};
         QTest::newRow("a tie for the lead: both full and green")
             << QList<int>{2, 2, 1} << 2 << QList<double>{1, 1, 0.5} << QList<bool>{true, true, false};
         QTest::newRow("one of ten") << QList<int>{10, 1} << 10 << QList<double>{1, 0.1} << QList<bool>{true, false};

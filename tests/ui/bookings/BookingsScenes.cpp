@@ -16,18 +16,13 @@ namespace {
 // booking selected, then whatever `more` does.
 Scene bookings(const QString &name, int filter, const QString &selected, std::function<void(Stage &)> more = {})
 {
-    Scene scene;
-    scene.name = name;
-    scene.prepare = [=](Stage &stage) {
-        stage.app().model().setSection(AppSection::bookings);
-        Stage::wait(100);
+    return sectionScene(name, AppSection::bookings, [=](Stage &stage) {
         stage.set(u"bookingsModel"_s, "filter", filter);
         if (!selected.isEmpty())
             stage.app().model().setSelectedBooking(selected);
         if (more)
             more(stage);
-    };
-    return scene;
+    });
 }
 
 } // namespace

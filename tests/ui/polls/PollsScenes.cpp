@@ -11,19 +11,6 @@ using namespace quorvane::test;
 
 namespace {
 
-Scene polls(const QString &name, std::function<void(Stage &)> more = {})
-{
-    Scene scene;
-    scene.name = name;
-    scene.prepare = [more](Stage &stage) {
-        stage.app().model().setSection(AppSection::polls);
-        Stage::wait(100);
-        if (more)
-            more(stage);
-    };
-    return scene;
-}
-
 // The server's polls changed, and the model has refreshed.
 void editPolls(Stage &stage, const std::function<void(QList<Poll> &)> &edit)
 {
@@ -36,20 +23,21 @@ void editPolls(Stage &stage, const std::function<void(QList<Poll> &)> &edit)
 QUORVANE_SCENES(polls)
 {
     // The design review's two times tie at two votes each; the planning sync has a leader.
-    Scene votes = polls(u"polls-votes-and-tie"_s, [](Stage &stage) {
+    Scene votes = sectionScene(u"polls-votes-and-tie"_s, AppSection::polls, [](Stage &stage) {
         editPolls(stage, [](QList<Poll> &list) { list[1].options[1].votes = 2; });
     });
-    Scene noVotes = polls(u"polls-no-votes"_s, [](Stage &stage) {
+    Scene noVotes = sectionScene(u"polls-no-votes"_s, AppSection::polls, [](Stage &stage) {
         editPolls(stage, [](QList<Poll> &list) {
             for (Poll::Option &option : list[0].options)
                 option.votes = 0;
             list[0].voters.clear();
         });
     });
-    Scene empty = polls(u"polls-empty"_s);
+    Scene empty = sectionScene(u"polls-empty"_s, AppSection::polls);
     empty.fixture.emptyData = true;
-    Scene sheet = polls(u"polls-new-poll-sheet"_s, [](Stage &stage) { stage.app().model().setShowNewPoll(true); });
-    Scene confirm = polls(u"polls-delete-dialog"_s, [](Stage &stage) {
+    Scene sheet = sectionScene(u"polls-new-poll-sheet"_s, AppSection::polls,
+                               [](Stage &stage) { stage.app().model().setShowNewPoll(true); });
+    Scene confirm = sectionScene(u"polls-delete-dialog"_s, AppSection::polls, [](Stage &stage) {
         QObject *view = stage.find(u"pollCards"_s);
         QObject *button = stage.find(u"deletePoll"_s);
         if (!view || !button)

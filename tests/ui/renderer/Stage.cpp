@@ -148,4 +148,20 @@ bool Stage::waitForFrame(QQuickWindow *shown)
     return drawn;
 }
 
+Scene sectionScene(const QString &name, AppSection section, std::function<void(Stage &)> after,
+                   std::function<void(Stage &)> before)
+{
+    Scene scene;
+    scene.name = name;
+    scene.prepare = [section, after = std::move(after), before = std::move(before)](Stage &stage) {
+        if (before)
+            before(stage);
+        stage.app().model().setSection(section);
+        Stage::wait(100);
+        if (after)
+            after(stage);
+    };
+    return scene;
+}
+
 } // namespace quorvane::test

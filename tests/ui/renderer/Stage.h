@@ -50,4 +50,9 @@ private:
     QStringList m_problems;
 };
 
+// A scene of the main window on one section: `before` runs first (a change to the server's
+// data, say), then the section is shown and `after` runs on it.
+[[nodiscard]] Scene sectionScene(const QString &name, AppSection section, std::function<void(Stage &)> after = {},
+                                 std::function<void(Stage &)> before = {});
+
 } // namespace quorvane::test
