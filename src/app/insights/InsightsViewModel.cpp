@@ -66,7 +66,8 @@ void InsightsViewModel::fillWeeks()
     QList<QVariantList> rows;
     for (qsizetype i = 0; i <= last; ++i) {
         const Insights::Week &week = m_insights.weeks.at(i);
-        const QString label = m_app ? InsightsFigures::weekLabel(week.start, m_app->locale(), m_app->zone()) : QString();
+        const QString label =
+            m_app ? InsightsFigures::weekLabel(week.start, m_app->locale(), m_app->zone()) : QString();
         // Every second week carries a mark, counted back from the current one.
         rows.append({label, week.count, double(week.count) / most, (last - i) % 2 == 0,
                      u"Week of %1: %2"_s.arg(label).arg(week.count)});
@@ -87,8 +88,8 @@ void InsightsViewModel::fillCells()
     for (const Insights::Cell &cell : std::as_const(m_insights.heatmap)) {
         const double intensity = most > least ? double(cell.count - least) / (most - least) : 1.0;
         rows.append({InsightsFigures::row(cell.weekday), cell.hour, cell.count, intensity,
-                     u"%1 %2: %3"_s.arg(InsightsFigures::weekdayName(cell.weekday, locale),
-                                        InsightsFigures::hourLabel(cell.hour))
+                     u"%1 %2: %3"_s
+                         .arg(InsightsFigures::weekdayName(cell.weekday, locale), InsightsFigures::hourLabel(cell.hour))
                          .arg(cell.count)});
     }
     m_cells.setRows(std::move(rows));

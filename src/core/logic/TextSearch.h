@@ -23,7 +23,12 @@ public:
     [[nodiscard]] bool foundIn(const QString &text) const;
 
 private:
+    // The common case, an ASCII query in an ASCII text, without Unicode's case folding;
+    // no value when the text holds other characters and needs the full comparison.
+    [[nodiscard]] std::optional<bool> foundInAscii(const QString &text) const;
+
     QString m_query;
+    QByteArray m_asciiLower; // the query in ASCII lower case, when it is all ASCII
     QStringMatcher m_matcher;
     std::optional<QLocale> m_ownCaseRules; // set where the language's case rules differ from Unicode's
 };

@@ -1,4 +1,5 @@
 // The polls screen's logic: the link, the vote bars, the voters line, a new poll's type.
+#include "polls/NewPollModel.h"
 #include "polls/Polls.h"
 
 #include <QTest>
@@ -81,6 +82,18 @@ private Q_SLOTS:
     {
         QFETCH(QList<EventType>, active);
         QTEST(Polls::defaultType(active), "chosen");
+    }
+
+    // A title of one blank is a title; no type, no poll.
+    void canCreate()
+    {
+        NewPollModel sheet;
+        sheet.setTitle(u" "_s);
+        QVERIFY(!sheet.canCreate());
+        sheet.setType(u"consult"_s);
+        QVERIFY(sheet.canCreate());
+        sheet.setTitle({});
+        QVERIFY(!sheet.canCreate());
     }
 };
 

@@ -1,7 +1,9 @@
-// The small text makers: countdowns, the palette's ranking, version comparison and link slugs.
+// The small text makers: countdowns, the palette's ranking, version comparison, link slugs
+// and the search of typed text.
 #include "Countdown.h"
 #include "Fuzzy.h"
 #include "Slug.h"
+#include "TextSearch.h"
 #include "Version.h"
 
 #include <QTest>
@@ -18,6 +20,26 @@ class TestTextUtils : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Whatever the text's letters, a typed query is found ignoring case, and only there.
+    void search_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("ASCII, any case") << u"ANN"_s << u"hannah@x.io"_s << true;
+        QTest::newRow("ASCII, not there") << u"ann"_s << u"anna"_s.left(2) << false;
+        QTest::newRow("after an accented letter") << u"ann"_s << u"Tomás Ann"_s << true;
+        QTest::newRow("the Kelvin sign folds to k") << u"k"_s << u"\u212A"_s << true;
+        QTest::newRow("accents are letters of their own") << u"tomas"_s << u"Tomás"_s << false;
+        QTest::newRow("an accented query") << u"TOMÁS"_s << u"tomás"_s << true;
+    }
+    void search()
+    {
+        QFETCH(QString, query);
+        QFETCH(QString, text);
+        QTEST(TextSearch(query, u"en_US"_s).foundIn(text), "found");
+    }
+
     void shortText_data()
     {
         QTest::addColumn<qint64>("msecsLeft");

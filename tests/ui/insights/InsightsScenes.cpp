@@ -16,7 +16,7 @@ QUORVANE_SCENES(insights)
     empty.fixture.emptyData = true;
     Scene deleted = sectionScene(u"insights-deleted-type"_s, AppSection::insights, {}, [](Stage &stage) {
         stage.app().transport().data.settings->eventTypes.removeAt(0); // Intro Call
-        while (stage.app().model().loading()) // the start's own refresh would swallow this one
+        while (stage.app().model().loading())                          // the start's own refresh would swallow this one
             Stage::wait(20);
         QCoro::waitFor(stage.app().model().refresh());
     });

@@ -16,8 +16,9 @@ using namespace quorvane::test;
 
 namespace {
 
-const QByteArray insightsWindow = "import QtQuick\nimport Quorvane.Insights\n"
-                                  "Window { width: 1000; height: 900; visible: true; InsightsView { anchors.fill: parent } }";
+const QByteArray insightsWindow =
+    "import QtQuick\nimport Quorvane.Insights\n"
+    "Window { width: 1000; height: 900; visible: true; InsightsView { anchors.fill: parent } }";
 
 } // namespace
 
