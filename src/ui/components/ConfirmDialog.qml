@@ -41,6 +41,8 @@ Dialog {
             text: root.actionText
             palette.buttonText: Style.red
             DialogButtonBox.buttonRole: DialogButtonBox.DestructiveRole
+            Keys.onReturnPressed: clicked()
+            Keys.onEnterPressed: clicked()
             onClicked: {
                 root.close()
                 root.confirmed()
@@ -50,6 +52,8 @@ Dialog {
             objectName: "dismissAction"
             text: qsTr("Cancel")
             DialogButtonBox.buttonRole: DialogButtonBox.RejectRole
+            Keys.onReturnPressed: root.reject()
+            Keys.onEnterPressed: root.reject()
         }
     }
 }
