@@ -3,6 +3,8 @@
 #include "ISO.h"
 #include "NetworkTransport.h"
 
+#include <QQmlEngine>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::test {
@@ -103,6 +105,15 @@ Booking ModelRig::guestBooks(const QString &name, const Instant &start)
     request.email = u"guest@example.com"_s;
     request.tz = u"Europe/Paris"_s;
     return backend.book(request, false);
+}
+
+void registerAppForQml()
+{
+    qmlRegisterSingletonType<AppModel>("Quorvane.App", 1, 0, "App", [](QQmlEngine *, QJSEngine *) {
+        Q_ASSERT_X(appForQml, "registerAppForQml", "point appForQml at a model first");
+        QQmlEngine::setObjectOwnership(appForQml, QQmlEngine::CppOwnership);
+        return appForQml;
+    });
 }
 
 } // namespace quorvane::test

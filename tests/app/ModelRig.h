@@ -92,4 +92,9 @@ public:
     AppEnvironment::Timings timings;
 };
 
+// `App` in QML for windows on a rig's model: register once per process, then point
+// `appForQml` at the model before an engine loads.
+inline AppModel *appForQml = nullptr;
+void registerAppForQml();
+
 } // namespace quorvane::test

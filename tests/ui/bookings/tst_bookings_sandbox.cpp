@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-AppModel *appForQml = nullptr; // `App` in QML
-
 // The screen alone in a window, on a model signed in to the sandbox, with every banner kept.
 struct Rig {
     bool start()
@@ -69,10 +67,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QQuickStyle::setStyle(u"Fusion"_s);
-        qmlRegisterSingletonType<AppModel>("Quorvane.App", 1, 0, "App", [](QQmlEngine *, QJSEngine *) {
-            QQmlEngine::setObjectOwnership(appForQml, QQmlEngine::CppOwnership);
-            return appForQml;
-        });
+        registerAppForQml();
     }
 
     // Cancel asks first; once confirmed, the refresh after it moves the booking under

@@ -13,12 +13,6 @@ using namespace quorvane;
 using namespace quorvane::test;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-AppModel *appForQml = nullptr; // `App` in QML
-
-} // namespace
-
 class TestPollsSandbox : public QObject
 {
     Q_OBJECT
@@ -27,10 +21,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QQuickStyle::setStyle(u"Fusion"_s);
-        qmlRegisterSingletonType<AppModel>("Quorvane.App", 1, 0, "App", [](QQmlEngine *, QJSEngine *) {
-            QQmlEngine::setObjectOwnership(appForQml, QQmlEngine::CppOwnership);
-            return appForQml;
-        });
+        registerAppForQml();
     }
 
     void createVoteDelete()
