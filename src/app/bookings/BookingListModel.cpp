@@ -97,6 +97,11 @@ void BookingListModel::rebuild()
     }
     mergeRows(m_rows, std::move(next), [](const Row &row) { return row.booking.id; });
 
+    // A type renamed on the server renames the menu too.
+    if (const QString title = typeMenuTitle(); title != m_typeMenuTitle) {
+        m_typeMenuTitle = title;
+        Q_EMIT typeMenuTitleChanged();
+    }
     const Bookings::EmptyState empty = Bookings::emptyState(m_filter, m_query);
     if (empty.title != m_empty.title) {
         m_empty = empty;

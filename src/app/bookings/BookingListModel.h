@@ -28,7 +28,7 @@ class BookingListModel : public AppListModel
     // The slug of the one event type to show; empty for all.
     Q_PROPERTY(QString typeFilter READ typeFilter WRITE setTypeFilter NOTIFY typeFilterChanged)
     Q_PROPERTY(QStringList filterTitles READ filterTitles CONSTANT)
-    Q_PROPERTY(QString typeMenuTitle READ typeMenuTitle NOTIFY typeFilterChanged)
+    Q_PROPERTY(QString typeMenuTitle READ typeMenuTitle NOTIFY typeMenuTitleChanged)
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY emptyStateChanged)
     Q_PROPERTY(QString emptySymbol READ emptySymbol NOTIFY emptyStateChanged)
     Q_PROPERTY(QString emptyDescription READ emptyDescription NOTIFY emptyStateChanged)
@@ -88,6 +88,7 @@ Q_SIGNALS:
     void queryChanged();
     void filterChanged();
     void typeFilterChanged();
+    void typeMenuTitleChanged();
     void emptyStateChanged();
 
 protected:
@@ -114,6 +115,7 @@ private:
     Bookings::Filter m_filter = Bookings::Filter::upcoming;
     std::optional<QString> m_typeFilter;
     Bookings::EmptyState m_empty;
+    QString m_typeMenuTitle; // as last announced
     QList<Row> m_rows;
 };
 
