@@ -81,7 +81,8 @@ void BookingListModel::rebuild()
         QList<Booking> shown =
             Bookings::filtered(model->allBookings(), m_filter, m_typeFilter, m_query, now, model->locale(), typeTitle);
         QHash<QString, QString> colors;
-        for (Bookings::Day &day : Bookings::grouped(std::move(shown), m_filter, model->zone())) {
+        for (Bookings::Day &day :
+             Bookings::grouped(std::move(shown), m_filter, WeekCalendar(model->locale(), model->zone()))) {
             bool first = true;
             for (Booking &b : day.bookings) {
                 auto color = colors.find(b.type);
@@ -140,9 +141,9 @@ QVariant BookingListModel::data(const QModelIndex &index, int role) const
     case ColorRole:
         return HexColor::parse(row.colorHex);
     case StatusRole:
-        return status() ? status()->text : QString();
+        return status().value_or(StatusLabel{}).text;
     case StatusTintRole:
-        return Tints::color(status() ? status()->tint : Tint::secondary);
+        return Tints::color(status().value_or(StatusLabel{}).tint);
     case CancelledRole:
         return b.status == BookingStatus::cancelled;
     case ShowsVideoRole:

@@ -4,10 +4,8 @@
 #include "TextSearch.h"
 
 #include <QHash>
-#include <QTimeZone>
 
 #include <algorithm>
-#include <limits>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -43,43 +41,6 @@ bool matches(const Booking &b, const TextSearch &search, const QString &typeTitl
         return search.foundIn(b.name + u' ' + b.email + u' ' + notes + u' ' + typeTitle);
     return search.foundIn(b.name) || search.foundIn(b.email) || search.foundIn(notes) || search.foundIn(typeTitle);
 }
-
-// The local calendar day of instants in one zone. The zone's offset is looked up once per
-// stretch between two changes of its clocks, so that thousands of bookings, which come
-// sorted, cost a few lookups and not one each.
-class LocalDays
-{
-public:
-    explicit LocalDays(const QString &zone)
-        : m_zone(zone.toUtf8())
-    {}
-
-    QDate of(const Instant &instant)
-    {
-        const qint64 seconds = instant.toSecsSinceEpoch();
-        if (seconds < m_from || seconds >= m_until)
-            lookUp(instant);
-        constexpr qint64 unixEpochJulianDay = 2440588;
-        return QDate::fromJulianDay(unixEpochJulianDay + floorDiv(seconds + m_offset, 86400));
-    }
-
-private:
-    static qint64 floorDiv(qint64 a, qint64 b) { return a / b - (a % b < 0 ? 1 : 0); }
-
-    void lookUp(const Instant &instant)
-    {
-        m_offset = m_zone.offsetFromUtc(instant);
-        const QTimeZone::OffsetData before = m_zone.previousTransition(instant.addSecs(1));
-        const QTimeZone::OffsetData after = m_zone.nextTransition(instant);
-        m_from = before.atUtc.isValid() ? before.atUtc.toSecsSinceEpoch() : std::numeric_limits<qint64>::min();
-        m_until = after.atUtc.isValid() ? after.atUtc.toSecsSinceEpoch() : std::numeric_limits<qint64>::max();
-    }
-
-    QTimeZone m_zone;
-    qint64 m_offset = 0;
-    qint64 m_from = 0;
-    qint64 m_until = 0; // empty at first
-};
 
 } // namespace
 
@@ -127,15 +88,15 @@ QList<Booking> filtered(const QList<Booking> &all, Filter filter, const std::opt
     return out;
 }
 
-QList<Day> grouped(QList<Booking> filtered, Filter filter, const QString &zone)
+QList<Day> grouped(QList<Booking> filtered, Filter filter, const WeekCalendar &calendar)
 {
     // Each booking's day, then the bookings in the order of their days; a stable sort keeps
     // the filtered order within a day.
-    LocalDays days(zone);
+    constexpr qint64 unixEpochJulianDay = 2440588;
     std::vector<std::pair<QDate, qsizetype>> keyed;
     keyed.reserve(size_t(filtered.size()));
     for (qsizetype i = 0; i < filtered.size(); ++i)
-        keyed.emplace_back(days.of(filtered.at(i).start), i);
+        keyed.emplace_back(QDate::fromJulianDay(unixEpochJulianDay + calendar.dayNumber(filtered.at(i).start)), i);
     const bool ascending = filter == Filter::upcoming;
     std::stable_sort(keyed.begin(), keyed.end(), [ascending](const auto &a, const auto &b) {
         return ascending ? a.first < b.first : a.first > b.first;

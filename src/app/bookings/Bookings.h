@@ -2,6 +2,7 @@
 
 #include "Booking.h"
 #include "Instant.h"
+#include "WeekCalendar.h"
 
 #include <QDate>
 #include <QList>
@@ -36,9 +37,9 @@ struct Day {
     QList<Booking> bookings;
 };
 
-// The filtered bookings by the local day of their start: the days ascending for `upcoming`,
-// the most recent first otherwise. Each day keeps the filtered order.
-[[nodiscard]] QList<Day> grouped(QList<Booking> filtered, Filter filter, const QString &zone);
+// The filtered bookings by the local day of their start in the calendar's zone: the days
+// ascending for `upcoming`, the most recent first otherwise. Each day keeps the filtered order.
+[[nodiscard]] QList<Day> grouped(QList<Booking> filtered, Filter filter, const WeekCalendar &calendar);
 
 // The start as the guest sees it: "Mar 10, 2026, 3:30 PM (Europe/Berlin)". A zone the
 // machine doesn't know gives way to `machineZone`, whose name then shows.

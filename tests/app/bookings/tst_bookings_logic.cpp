@@ -126,7 +126,7 @@ private Q_SLOTS:
                                      booking(u"yesterday"_s, -24 * 60)};
         const auto days = [&](Filter filter) {
             QStringList out;
-            for (const Bookings::Day &day : Bookings::grouped(list, filter, ny))
+            for (const Bookings::Day &day : Bookings::grouped(list, filter, WeekCalendar(u"en_US"_s, ny)))
                 out << day.day.toString(Qt::ISODate) + u':' + ids(day.bookings).join(u',');
             return out;
         };
