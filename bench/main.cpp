@@ -1,7 +1,8 @@
 // Prints the measured figures next to their budgets. Run it through scripts/bench (an optimised
 // build); the exit code is 1 when a figure is over its budget. Names as arguments (parse,
-// insights, decode, bookings, startup) run only those.
+// insights, decode, bookings, availability, startup) run only those.
 
+#include "AvailabilityBench.h"
 #include "BenchReport.h"
 #include "BookingsBench.h"
 #include "Insights.h"
@@ -88,6 +89,8 @@ int main(int argc, char *argv[])
         ok = benchDecode(bookings, now) && ok;
     if (runs("bookings"))
         ok = bench::benchBookings(bookings) && ok;
+    if (runs("availability"))
+        ok = bench::benchAvailability() && ok;
     if (runs("startup"))
         ok = bench::benchStartup(QString::fromLocal8Bit(argv[0]), QStringLiteral(QUORVANE_APP_PATH)) && ok;
     return ok ? 0 : 1;

@@ -1,9 +1,12 @@
 #include "HoursCommand.h"
 
 #include "AvailabilityMath.h"
+#include "DataPaths.h"
 #include "JSON.h"
 #include "NLAvailability.h"
 #include "Output.h"
+#include "SnapshotCache.h"
+#include "WeekSentence.h"
 
 #include <QCommandLineParser>
 
@@ -53,16 +56,37 @@ int run(const QStringList &arguments)
     parser.addHelpOption();
     const QCommandLineOption json(u"json"_s, u"Print the days as one line of JSON."_s);
     parser.addOption(json);
+    const QCommandLineOption describe(u"describe"_s,
+                                      u"Print the weekly hours as a sentence that this command reads back: the "
+                                      "hours of TEXT, or without TEXT the hours saved by Quorvane."_s);
+    parser.addOption(describe);
     parser.addPositionalArgument(u"hours"_s, u"This command."_s, u"hours"_s);
-    parser.addPositionalArgument(u"text"_s, u"The sentence; several words are joined with blanks."_s, u"TEXT..."_s);
+    parser.addPositionalArgument(u"text"_s, u"The sentence; several words are joined with blanks."_s, u"[TEXT...]"_s);
     parser.process(QStringList{u"quorvanectl"_s} + arguments);
 
     const QStringList words = parser.positionalArguments().mid(1);
-    if (words.isEmpty()) {
+    if (words.isEmpty() && !parser.isSet(describe)) {
         Output::error(u"quorvanectl hours: missing TEXT (see quorvanectl hours --help)"_s);
         return 2;
     }
-    const QList<DayAvailability> days = NLAvailability::parse(words.join(u' '));
+    QList<DayAvailability> days;
+    if (!words.isEmpty()) {
+        days = NLAvailability::parse(words.join(u' '));
+    } else {
+        const std::optional<Snapshot> saved = SnapshotCache(DataPaths::cacheIn(DataPaths::defaultDirectory())).load();
+        if (!saved || !saved->settings) {
+            Output::error(u"quorvanectl hours: Quorvane has no saved hours yet; sign in to Quorvane first"_s);
+            return 3;
+        }
+        days = saved->settings->availability;
+    }
+    if (parser.isSet(describe)) {
+        const QString sentence = WeekSentence::describe(days);
+        Output::line(parser.isSet(json)
+                         ? QString::fromUtf8(JSON::encode(QJsonValue(QJsonObject{{u"description"_s, sentence}})))
+                         : sentence);
+        return 0;
+    }
     if (parser.isSet(json)) {
         Output::line(QString::fromUtf8(JSON::encode(toJson(days))));
         return 0;

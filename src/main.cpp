@@ -1,4 +1,5 @@
 // Builds the application's objects, wires them together and loads the QML. Nothing else.
+#include "DataPaths.h"
 #include "Formats.h"
 #include "NetworkTransport.h"
 #include "SnapshotCache.h"
@@ -26,7 +27,6 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QIcon>
@@ -35,7 +35,6 @@
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QTimeZone>
 
 #include <cstdio>
@@ -69,8 +68,7 @@ int main(int argc, char *argv[])
 
     // The saved data is decoded on another thread while the rest starts up: it is the longest
     // single step of a start, and the model needs it only once the interface is about to load.
-    const QString dataDirectory =
-        QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath(u"Quorvane"_s);
+    const QString dataDirectory = DataPaths::defaultDirectory();
     std::shared_future<std::optional<Snapshot>> saved =
         std::async(std::launch::async, [path = AppModel::cachePath(dataDirectory)] {
             return SnapshotCache(path).load();

@@ -3,6 +3,7 @@
 #include "APIError.h"
 #include "Cancelled.h"
 #include "Clock.h"
+#include "DataPaths.h"
 #include "Formats.h"
 #include "Notifier.h"
 #include "WeekCalendar.h"
@@ -22,7 +23,6 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 namespace {
-const QString cacheFileName = u"cache-v2.json"_s;
 const QString trackerFileName = u"changes-v2.json"_s;
 
 bool byStart(const Booking &a, const Booking &b)
@@ -62,7 +62,7 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
 
 QString AppModel::cachePath(const QString &dataDirectory)
 {
-    return QDir(dataDirectory).filePath(cacheFileName);
+    return DataPaths::cacheIn(dataDirectory);
 }
 
 AppModel::~AppModel()

@@ -15,8 +15,9 @@ QmlType section(AppSection section)
         return {u"Quorvane.Polls"_s, u"PollsView"_s};
     case AppSection::insights:
         return {u"Quorvane.Insights"_s, u"InsightsView"_s};
-    case AppSection::types:
     case AppSection::availability:
+        return {u"Quorvane.Availability"_s, u"AvailabilityView"_s};
+    case AppSection::types:
         break;
     }
     return {};

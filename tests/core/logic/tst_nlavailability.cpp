@@ -1,7 +1,10 @@
 // Availability typed as text ("weekdays 9-5, fri 9am-1pm"): days, day parts, times and how
-// clauses combine.
+// clauses combine; and the week written as a sentence that reads back the same.
+#include "AvailabilityMath.h"
 #include "NLAvailability.h"
+#include "WeekSentence.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace quorvane;
@@ -82,6 +85,55 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QTEST(compact(NLAvailability::parse(text)), "expected");
+    }
+    // The week read back from its own sentence, for weeks of the sentences above and for
+    // generated weeks of every shape the week grid can hold.
+    void describeRoundTrip()
+    {
+        QCOMPARE(WeekSentence::describe(NLAvailability::parse(u"weekdays 9-5, fri 9am-1pm"_s)),
+                 u"Weekdays 9 AM\u20135 PM"_s);
+        QCOMPARE(
+            WeekSentence::describe(
+                {{2, {{540, 1020}}}, {3, {{540, 1020}}}, {4, {{540, 1020}}}, {5, {{540, 1020}}}, {6, {{540, 780}}}}),
+            u"Mon\u2013Thu 9 AM\u20135 PM, Fri 9 AM\u20131 PM"_s);
+        QCOMPARE(WeekSentence::describe({}), u"No working hours"_s);
+
+        QList<QList<DayAvailability>> weeks;
+        for (const char *text : {"weekdays 9-5, fri 9am-1pm", "every day 9-5", "weekends", "mon-thu 10-4", "mon wed",
+                                 "sat 1-5", "mon 6-10", "fri 12am-5pm", "mon 11pm-12", "mon 9-5, mon 6-8pm",
+                                 "mon 9-12; tue 1-3\nwed 10-11", "daily 10-11"})
+            weeks << NLAvailability::parse(QString::fromUtf8(text));
+        // Every set of days, with ranges at both ends of the day.
+        for (int set = 0; set < 128; ++set) {
+            QList<DayAvailability> w;
+            for (int day = 1; day <= 7; ++day) {
+                if (set & (1 << (day - 1)))
+                    w << DayAvailability{day, {{0, 15 * (set % 4 + 1)}, {1425 - 15 * (set % 3), 1440}}};
+            }
+            weeks << w;
+        }
+        // Random weeks on the grid's steps, where days often share their hours.
+        QRandomGenerator rng(20261125);
+        for (int n = 0; n < 500; ++n) {
+            QList<DayAvailability> w;
+            QList<TimeRange> shared;
+            for (int day = 1; day <= 7; ++day) {
+                QList<TimeRange> ranges;
+                for (int k = int(rng.bounded(4)); k > 0; --k) {
+                    const int a = 15 * int(rng.bounded(96));
+                    ranges << TimeRange{a, a + 15 * int(rng.bounded(1, 97 - a / 15))};
+                }
+                if (rng.bounded(3) == 0 && !shared.isEmpty())
+                    ranges = shared;
+                shared = ranges;
+                w = AvailabilityMath::set(w, day, ranges);
+            }
+            weeks << w;
+        }
+        for (const QList<DayAvailability> &w : std::as_const(weeks)) {
+            const QString sentence = WeekSentence::describe(w);
+            QVERIFY2(NLAvailability::parse(sentence) == w, qPrintable(sentence));
+        }
     }
 };
 

@@ -1,5 +1,9 @@
 // Runs the real quorvanectl binary, as a user's shell would.
+#include "DataPaths.h"
+#include "SnapshotCache.h"
+
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -7,9 +11,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The exit code, then what came out on stdout.
-QString quorvanectl(const QStringList &arguments)
+QString quorvanectl(const QStringList &arguments, const QString &dataHome = {})
 {
     QProcess process;
+    if (!dataHome.isEmpty()) {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(u"XDG_DATA_HOME"_s, dataHome);
+        process.setProcessEnvironment(env);
+    }
     process.start(qEnvironmentVariable("QUORVANE_BINARY_DIR") + u"/cli/quorvanectl"_s, arguments);
     if (!process.waitForFinished(10'000) || process.exitStatus() != QProcess::NormalExit)
         return u"did not finish"_s;
@@ -37,6 +46,22 @@ private Q_SLOTS:
         QCOMPARE(quorvanectl({u"hours"_s, u"whenever"_s}), u"0 "_s);
         QCOMPARE(quorvanectl({u"hours"_s}), u"2 "_s);
         QCOMPARE(quorvanectl({u"minutes"_s}), u"2 "_s);
+    }
+
+    // The week as a sentence: of a typed text, or of the hours Quorvane saved; none saved yet
+    // is the not-signed-in exit.
+    void describe()
+    {
+        QCOMPARE(quorvanectl({u"hours"_s, u"--describe"_s, u"mon-thu 9-5, fri 9-1"_s}),
+                 u"0 Mon\u2013Thu 9 AM\u20135 PM, Fri 9 AM\u20131 PM\n"_s);
+        QTemporaryDir home;
+        QCOMPARE(quorvanectl({u"hours"_s, u"--describe"_s}, home.path()), u"3 "_s);
+        quorvane::Snapshot saved;
+        saved.settings = quorvane::HostSettings{};
+        saved.settings->availability = {{7, {{600, 720}}}, {1, {{600, 720}}}};
+        QVERIFY(quorvane::SnapshotCache(quorvane::DataPaths::cacheIn(home.filePath(u"Quorvane"_s))).save(saved));
+        QCOMPARE(quorvanectl({u"hours"_s, u"--describe"_s, u"--json"_s}, home.path()),
+                 u"0 {\"description\":\"Weekends 10 AM\u201312 PM\"}\n"_s);
     }
 };
 
