@@ -70,4 +70,8 @@ ColumnLayout {
             }
         }
     }
+
+    Item {
+        Layout.fillHeight: true
+    }
 }

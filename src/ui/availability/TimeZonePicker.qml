@@ -32,6 +32,7 @@ Button {
     Popup {
         id: popup
         objectName: "zonePopup"
+        x: picker.width - width
         y: picker.height + Style.spaceXS
         width: 300
         height: 320

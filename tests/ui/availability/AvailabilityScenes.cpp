@@ -3,6 +3,7 @@
 // signed out and loading.
 #include "SceneTable.h"
 #include "Stage.h"
+#include "availability/DayColumnModel.h"
 
 #include <QQuickItem>
 
@@ -23,10 +24,10 @@ Scene scene(const QString &name, std::function<void(Stage &)> after = {})
 }
 
 // A day column's model, found by its column.
-QObject *day(Stage &stage, int weekday)
+DayColumnModel *day(Stage &stage, int weekday)
 {
     QObject *column = stage.find(u"day"_s + QString::number(weekday));
-    return column ? column->property("model").value<QObject *>() : nullptr;
+    return column ? column->property("model").value<DayColumnModel *>() : nullptr;
 }
 
 } // namespace
@@ -41,17 +42,18 @@ QUORVANE_SCENES(availability)
         });
         stage.set(u"availabilityModel"_s, "mode", 1);
     });
-    // Friday's block halfway through a drag down by an hour and a half.
+    // Friday's block in the middle of a drag down by an hour and a half, and a Saturday morning
+    // being drawn.
     Scene drag = scene(u"availability-drag"_s, [](Stage &stage) {
-        QObject *friday = day(stage, 6);
-        if (!friday)
-            return stage.problem(u"no Friday column"_s);
-        QMetaObject::invokeMethod(friday, "pressBlock", 0, 10.0, 100.0);
-        QMetaObject::invokeMethod(friday, "moveTo", 10.0, 130.0);
-        QMetaObject::invokeMethod(friday, "moveTo", 10.0, 157.0);
-        QObject *saturday = day(stage, 7);
-        QMetaObject::invokeMethod(saturday, "pressBackground", 10.0, 95.0);
-        QMetaObject::invokeMethod(saturday, "moveTo", 10.0, 215.0);
+        DayColumnModel *friday = day(stage, 6);
+        DayColumnModel *saturday = day(stage, 7);
+        if (!friday || !saturday)
+            return stage.problem(u"no Friday or Saturday column"_s);
+        friday->pressBlock(0, 10, 100);
+        friday->moveTo(10, 130);
+        friday->moveTo(10, 157);
+        saturday->pressBackground(10, 95);
+        saturday->moveTo(10, 215);
     });
     drag.settleMs = 900;
     Scene sentence = scene(u"availability-sentence"_s, [](Stage &stage) {
