@@ -14,6 +14,7 @@ set(QUORVANE_FEATURES
     tray
     onboarding
     about
+    updates
 )
 
 # Adds the folder of every feature that the current source directory has.
