@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "UpdateFeed.h"
+
 #include <QCommandLineParser>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,9 @@ struct Options {
     QCommandLineOption simulate{u"simulate"_s, u"Have guests book and cancel now and then."_s};
     QCommandLineOption testControls{u"test-controls"_s, u"Serve the /sandbox/ endpoints for tests."_s};
     QCommandLineOption quiet{u"quiet"_s, u"Don't log requests."_s};
+    QCommandLineOption updateKey{u"print-update-key"_s,
+                                 u"Print the public half of the test key that signs the sandbox's update feed "
+                                 "(base64), for the app's --update-key, and exit."_s};
 };
 
 std::optional<long long> number(const QCommandLineParser &parser, const QCommandLineOption &option, long long low,
@@ -40,12 +45,14 @@ Parsed parse(const QStringList &arguments)
     parser.setApplicationDescription(u"A local stand-in for the Quorvane service, for demos, development and tests."_s);
     const QCommandLineOption help = parser.addHelpOption();
     const Options o;
-    parser.addOptions(
-        {o.port, o.printPort, o.db, o.demo, o.seed, o.token, o.autoApprove, o.simulate, o.testControls, o.quiet});
+    parser.addOptions({o.port, o.printPort, o.db, o.demo, o.seed, o.token, o.autoApprove, o.simulate, o.testControls,
+                       o.quiet, o.updateKey});
     if (!parser.parse(arguments))
         return {std::nullopt, parser.errorText(), true};
     if (parser.isSet(help))
         return {std::nullopt, parser.helpText(), false};
+    if (parser.isSet(o.updateKey))
+        return {std::nullopt, UpdateFeed::publicKeyBase64(), false};
 
     SandboxConfig c;
     const auto numeric = [&](const QCommandLineOption &option, long long low, long long high, auto apply) {

@@ -6,6 +6,7 @@
 #include "GuestSimulator.h"
 #include "PageRoutes.h"
 #include "SandboxServer.h"
+#include "UpdateFeed.h"
 
 #include <cstdio>
 
@@ -60,6 +61,7 @@ bool Sandbox::start(QString *error)
 
     ApiRoutes::install(m_router, m_backend, m_devices);
     PageRoutes::install(m_router, m_backend, m_devices);
+    UpdateFeed::install(m_router, [this] { return m_backend.baseUrl(); });
     if (m_config.testControls)
         ControlRoutes::install(m_router, m_backend, m_faults);
 

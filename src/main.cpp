@@ -1,4 +1,5 @@
 // Builds the application's objects, wires them together and loads the QML. Nothing else.
+#include "BuildInfo.h"
 #include "DataPaths.h"
 #include "Formats.h"
 #include "NetworkTransport.h"
@@ -22,12 +23,16 @@
 #include "shell/SingleInstance.h"
 #include "shell/ViewTable.h"
 #include "tray/TrayController.h"
+#include "updates/FeedUpdater.h"
+#include "updates/StagedUpdate.h"
 
 #include "QuorvaneQmlModules.h"
 
 #include <QApplication>
 #include <QDBusConnection>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFontDatabase>
 #include <QIcon>
 #include <QLocale>
@@ -35,11 +40,15 @@
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QSettings>
+#include <QStandardPaths>
+#include <QSysInfo>
 #include <QTimeZone>
 
 #include <cstdio>
 #include <future>
 #include <memory>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;
@@ -65,6 +74,15 @@ int main(int argc, char *argv[])
     SingleInstance instance(SingleInstance::defaultPath());
     if (!options.selfTest && instance.handOver(options.window))
         return 0;
+    // A portable copy with a verified update waiting puts it in its place and starts that.
+    const QString executable = QCoreApplication::applicationFilePath();
+    const FeedUpdater::Install install = FeedUpdater::installOf(executable, build::portable);
+    const QString updateStaging =
+        QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)).filePath(u"Quorvane/updates"_s);
+    if (install == FeedUpdater::Install::portable && !options.selfTest
+        && StagedUpdate::apply(executable, updateStaging)) {
+        ::execv(QFile::encodeName(executable).constData(), argv);
+    }
 
     // The saved data is decoded on another thread while the rest starts up: it is the longest
     // single step of a start, and the model needs it only once the interface is about to load.
@@ -113,6 +131,17 @@ int main(int argc, char *argv[])
     ShellController shell;
     shell.setStartHidden(options.hidden);
     CommandTable commands(model, shell, opener);
+    FeedUpdater::Config updates;
+    updates.publicKey =
+        QByteArray::fromBase64(options.updateKey.value_or(QString::fromLatin1(build::updateKey)).toLatin1());
+    updates.install = install;
+    updates.currentVersion = QString::fromLatin1(build::version);
+    updates.currentBuild = QByteArray(build::number).toInt();
+    updates.systemVersion = QSysInfo::productVersion();
+    updates.stagingDirectory = updateStaging;
+    FeedUpdater updater(
+        updates, env.transport, [&model] { return model.baseURL(); }, settings, clock, opener);
+    commands.attachUpdater(&updater);
 
     QObject::connect(&notifier, &Notifier::joinRequested, &notifier, [&opener](const QUrl &url) { opener.open(url); });
     QObject::connect(&notifier, &Notifier::activateRequested, &shell, [&shell] { shell.open(AppWindow::Main); });
@@ -126,6 +155,7 @@ int main(int argc, char *argv[])
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Shell", &shell);
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Setup", &setup);
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Commands", &commands);
+    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Updates", static_cast<Updater *>(&updater));
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s);
     engine.addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
@@ -141,6 +171,8 @@ int main(int argc, char *argv[])
     if (engine.rootObjects().isEmpty())
         return 1;
     TrayController tray(engine, model);
+    if (install == FeedUpdater::Install::portable)
+        StagedUpdate::confirmStarted(executable);
     if (const std::optional<AppWindow::Id> window = AppWindow::fromName(options.window); window != AppWindow::Main)
         shell.open(window.value_or(AppWindow::Main));
     return QApplication::exec();

@@ -6,6 +6,7 @@
 #include "model/AppModel.h"
 #include "shell/KeyLabel.h"
 #include "shell/ShellController.h"
+#include "updates/Updater.h"
 
 using namespace Qt::StringLiterals;
 
@@ -99,9 +100,17 @@ CommandTable::CommandTable(AppModel &model, ShellController &shell, const UrlOpe
     rows.append({u"openMain"_s, u"Open Quorvane"_s, u"macwindow"_s, {}, {}, open(AppWindow::Main)});
     rows.append({u"welcomeGuide"_s, u"Welcome Guide"_s, u"questionmark.circle"_s, {}, {}, open(AppWindow::Onboarding)});
     rows.append({u"about"_s, u"About Quorvane"_s, u"info.circle"_s, {}, {}, open(AppWindow::About)});
-    // Until an update feed is configured there is nothing to check.
-    rows.append(
-        {u"checkForUpdates"_s, u"Check for Updates…"_s, u"arrow.down.circle"_s, {}, {}, {}, [] { return false; }});
+    // Until an updater is attached there is nothing to check.
+    rows.append({u"checkForUpdates"_s,
+                 u"Check for Updates…"_s,
+                 u"arrow.down.circle"_s,
+                 {},
+                 {},
+                 [updater = m_updater] {
+                     if (*updater)
+                         (*updater)->check();
+                 },
+                 [updater = m_updater] { return *updater && (*updater)->canCheck(); }});
     rows.append({u"madeBy"_s, About::madeBy(maker.name.trimmed()), u"person"_s, {}, {}, open(AppWindow::About)});
     rows.append({u"makerSite"_s,
                  site.isEmpty() ? QString() : About::siteName(site),
@@ -118,6 +127,14 @@ CommandTable::CommandTable(AppModel &model, ShellController &shell, const UrlOpe
         m_commands.append(new Command(std::move(row), this));
     Command *join = get(CommandId::JoinNext);
     connect(app, &AppModel::nextChanged, join, &Command::enabledChanged);
+}
+
+void CommandTable::attachUpdater(Updater *updater)
+{
+    *m_updater = updater;
+    Command *check = get(CommandId::CheckForUpdates);
+    connect(updater, &Updater::stateChanged, check, &Command::enabledChanged);
+    Q_EMIT check->enabledChanged();
 }
 
 Command *CommandTable::get(CommandId::Id id) const

@@ -5,10 +5,15 @@
 #include <QKeySequence>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <memory>
+
 namespace quorvane {
+
+class Updater;
 
 class AppModel;
 class ShellController;
@@ -73,6 +78,8 @@ public:
     // Every command the palette lists, in its order.
     Q_INVOKABLE [[nodiscard]] QList<quorvane::Command *> paletteCommands() const;
     [[nodiscard]] const QList<Command *> &all() const { return m_commands; }
+    // "Check for Updates…" asks this updater, enabled while a check may start.
+    void attachUpdater(Updater *updater);
 
     // The key of a command in the main window; none for most.
     [[nodiscard]] static QKeySequence keys(CommandId::Id id);
@@ -82,6 +89,7 @@ public:
 
 private:
     QList<Command *> m_commands; // indexed by CommandId::Id
+    std::shared_ptr<QPointer<Updater>> m_updater = std::make_shared<QPointer<Updater>>();
 };
 
 } // namespace quorvane

@@ -55,7 +55,10 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
     const QCommandLineOption selfTestSection(
         u"self-test-section"_s, u"In the self-test, also time the first opening of a section."_s, u"SECTION"_s);
     const QCommandLineOption hidden(u"hidden"_s, u"Start in the tray without opening a window."_s);
-    parser.addOptions({help, version, server, share, open, selfTest, selfTestSection, hidden});
+    const QCommandLineOption updateKey(
+        u"update-key"_s, u"Trust updates signed with this Ed25519 public key (base64), such as a test server's."_s,
+        u"KEY"_s);
+    parser.addOptions({help, version, server, share, open, selfTest, selfTestSection, hidden, updateKey});
 
     if (!parser.parse(arguments))
         return stop(2, parser.errorText());
@@ -72,6 +75,13 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
         if (!isServer(url))
             return stop(2, u"--server needs an http or https address without a path, such as https://example.com"_s);
         out.server = url;
+    }
+    if (parser.isSet(updateKey)) {
+        const QByteArray key =
+            QByteArray::fromBase64(parser.value(updateKey).toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+        if (key.size() != 32)
+            return stop(2, u"--update-key needs an Ed25519 public key: 32 bytes in base64"_s);
+        out.updateKey = parser.value(updateKey);
     }
     out.selfTest = parser.isSet(selfTest) || parser.isSet(selfTestSection);
     if (parser.isSet(selfTestSection))

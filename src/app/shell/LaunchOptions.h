@@ -14,6 +14,7 @@ struct LaunchOptions {
     bool selfTest = false;                  // load every QML file, draw the main window once, report, exit
     std::optional<QString> selfTestSection; // also time a section's first opening in the self-test
     bool hidden = false;                    // start in the tray with no window open
+    std::optional<QString> updateKey;       // base64: trust updates signed with this key instead
     QString window = QStringLiteral("main");
 
     // Set when the launch ends here: help or version (exit 0) or a mistake (exit 2).

@@ -120,15 +120,12 @@ Verdict judge(const HTTPResponse &response, const QByteArray &method)
     return {error, error.isRetryable() && method == "GET"};
 }
 
-QCoro::Task<QByteArray> perform(QuorvaneAPI api, QString path, QByteArray method, QuorvaneAPI::Query query,
-                                std::optional<QByteArray> body, int attempts)
+// Sends a prepared request, tried up to `attempts` times while a retry may mend it; gives the
+// body of a 2xx.
+QCoro::Task<QByteArray> exchange(QuorvaneAPI api, HTTPRequest prepared, int attempts)
 {
     Q_ASSERT(api.transport);
-    const std::optional<QString> token = api.token ? api.token() : std::nullopt;
-    if (!token || token->isEmpty())
-        throw APIError::notSignedIn();
-    const HTTPRequest prepared = prepare(urlFor(api.base, path, query), method, body, token);
-
+    const QByteArray method = prepared.method;
     APIError lastError = APIError::offline();
     const int tries = std::max(attempts, 1);
     for (int attempt = 0; attempt < tries; ++attempt) {
@@ -155,6 +152,16 @@ QCoro::Task<QByteArray> perform(QuorvaneAPI api, QString path, QByteArray method
         lastError = std::move(verdict.error);
     }
     throw lastError;
+}
+
+QCoro::Task<QByteArray> perform(QuorvaneAPI api, QString path, QByteArray method, QuorvaneAPI::Query query,
+                                std::optional<QByteArray> body, int attempts)
+{
+    const std::optional<QString> token = api.token ? api.token() : std::nullopt;
+    if (!token || token->isEmpty())
+        throw APIError::notSignedIn();
+    HTTPRequest prepared = prepare(urlFor(api.base, path, query), method, body, token);
+    co_return co_await exchange(api, std::move(prepared), attempts);
 }
 
 template <class T>
@@ -268,6 +275,12 @@ QCoro::Task<QByteArray> QuorvaneAPI::request(QString path, QByteArray method, Qu
 {
     // The coroutine keeps its own copy: this value may be a temporary.
     return perform(*this, std::move(path), std::move(method), std::move(query), std::move(body), attempts);
+}
+
+QCoro::Task<QByteArray> QuorvaneAPI::fetchPublic(QUrl url) const
+{
+    const QUrl resolved = url.isRelative() ? urlFor(base, url.path(), {}) : url;
+    return exchange(*this, prepare(resolved, QByteArrayLiteral("GET"), std::nullopt, std::nullopt), 2);
 }
 
 QCoro::Task<QByteArray> QuorvaneAPI::post(QString path, QJsonObject body, QByteArray method) const

@@ -52,6 +52,10 @@ struct QuorvaneAPI {
     [[nodiscard]] QCoro::Task<QByteArray> post(QString path, QJsonObject body,
                                                QByteArray method = QByteArrayLiteral("POST")) const;
 
+    // A public file of the service, such as the update feed or a release's download: a GET
+    // without the token, tried twice. A relative `url` lies below the base.
+    [[nodiscard]] QCoro::Task<QByteArray> fetchPublic(QUrl url) const;
+
     [[nodiscard]] QCoro::Task<Account> me() const;
     [[nodiscard]] QCoro::Task<HostSettings> settings() const;
     // Gives the settings as the server stored them.
