@@ -1,5 +1,7 @@
 #include "UpdateFeed.h"
 
+#include "Html.h"
+
 #include <QDateTime>
 
 #include <sodium.h>
@@ -90,6 +92,15 @@ void install(Router &router, std::function<QString()> baseUrl)
     router.add("GET", QString::fromLatin1(downloadPath), Router::Access::open, [](const HttpRequest &) {
         return HttpReply{200, "application/octet-stream", download(), {}};
     });
+    router.add("GET", u"/app/releases/%1"_s.arg(QLatin1StringView(version)), Router::Access::page,
+               [](const HttpRequest &) {
+                   return HttpReply::html(Html::page(
+                       u"Quorvane %1"_s.arg(QLatin1StringView(version)),
+                       u"<main><div class=\"card\"><h1>Quorvane %1</h1><p class=\"muted\">A sandbox release, to try "
+                       "updates with. Its download is signed with the sandbox's test key.</p><ul><li>Availability: "
+                       "the week as a sentence</li><li>Settings in one window</li><li>Signed updates</li></ul>"
+                       "</div></main>"_s.arg(QLatin1StringView(version))));
+               });
 }
 
 } // namespace quorvane::sandbox::UpdateFeed

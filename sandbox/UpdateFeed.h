@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 // The service's update feed as the sandbox offers it: one newer release, 2.1 (build 210), and
 // its download, signed with a test key that is fixed and public, so tests and the demo can
 // hand its public half to the app. Never the publisher's key.
@@ -22,7 +24,7 @@ inline constexpr char downloadPath[] = "/downloads/quorvane-2.1-linux-x86_64";
 // The feed naming the download under `baseUrl`.
 [[nodiscard]] QByteArray appcast(const QString &baseUrl);
 
-// GET /appcast.xml and GET the download. A tampered download is a planted fault with another
+// GET /appcast.xml, the download, and the release's notes page. A tampered download is a planted fault with another
 // body on the download's path.
 void install(Router &router, std::function<QString()> baseUrl);
 
