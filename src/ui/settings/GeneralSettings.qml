@@ -63,7 +63,15 @@ SettingsForm {
             value: Commands.get(CommandId.Refresh).shortcutText
         }
         Note {
-            text: "Where the desktop has no global shortcut service, bind the command \u201cquorvane --share\u201d to a key in your desktop's keyboard settings."
+            text: "Where the desktop has no global shortcut service, bind a key to this command in your desktop's keyboard settings:"
+        }
+        SelectableText {
+            objectName: "shareCommand"
+            Layout.fillWidth: true
+            text: "quorvane --share"
+            font.family: "monospace"
+            font.pixelSize: Typography.caption
+            Accessible.name: "Command for Quick Share: quorvane --share"
         }
     }
 }

@@ -48,6 +48,13 @@ QUORVANE_SCENES(settings)
                          false, u"#FF9500"_s});
         QCoro::waitFor(stage.app().model().refresh());
     };
+    // "Add to" open: the read-only calendar isn't offered.
+    const auto addToOpen = [](Stage &stage) {
+        QObject *choice = stage.find(u"bookingCalendar"_s);
+        auto *popup = choice ? choice->property("popup").value<QObject *>() : nullptr;
+        if (!popup || !QMetaObject::invokeMethod(popup, "open"))
+            stage.problem(u"no \"Add to\" list to open"_s);
+    };
     // No notification service answers, and "Enable…" didn't change that.
     const auto off = [](Stage &stage) { stage.app().notifier.authorizes = false; };
     const auto refused = [](Stage &stage) {
@@ -69,7 +76,7 @@ QUORVANE_SCENES(settings)
         pane(u"settings-account"_s, account),
         pane(u"settings-account-signed-out"_s, account, State::signedOut),
         pane(u"settings-calendar"_s, calendar),
-        pane(u"settings-calendar-read-only"_s, calendar, State::withData, readOnly),
+        pane(u"settings-calendar-read-only"_s, calendar, State::withData, readOnly, addToOpen),
         pane(u"settings-notifications"_s, notifications),
         pane(u"settings-notifications-off"_s, notifications, State::withData, off, refused),
         pane(u"settings-updates"_s, updates, State::withData, checked),
