@@ -33,8 +33,8 @@ public:
     void openNotes() override { ++notesOpened; }
 
     // What the last check found, as a real one would report it.
-    void found(const QDateTime &when, const QString &status, const QString &available = {},
-               const QString &notes = {}, bool failed = false, bool canCheck = true)
+    void found(const QDateTime &when, const QString &status, const QString &available = {}, const QString &notes = {},
+               bool failed = false, bool canCheck = true)
     {
         m_lastCheck = when;
         m_status = status;

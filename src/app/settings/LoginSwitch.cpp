@@ -22,8 +22,9 @@ void LoginSwitch::setLogin(bool enabled)
 
 QString LoginSwitch::failureText(bool enabled)
 {
-    return enabled ? u"Couldn't add Quorvane to the programs that start at login: the autostart folder can't be written."_s
-                   : u"Couldn't remove Quorvane from the programs that start at login: the autostart folder can't be written."_s;
+    return enabled
+               ? u"Couldn't add Quorvane to the programs that start at login: the autostart folder can't be written."_s
+               : u"Couldn't remove Quorvane from the programs that start at login: the autostart folder can't be written."_s;
 }
 
 } // namespace quorvane

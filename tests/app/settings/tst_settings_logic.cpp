@@ -36,12 +36,12 @@ private Q_SLOTS:
         QTest::addColumn<bool>("on");
         QTest::addColumn<QStringList>("after");
         const QString real = mine.id;
-        QTest::newRow("primary by real id, off") << QStringList{team.id, real} << "mine" << true << false
-                                                 << QStringList{team.id};
-        QTest::newRow("primary by real id, on again") << QStringList{real, team.id} << "mine" << true << true
-                                                      << QStringList{team.id, u"primary"_s};
-        QTest::newRow("primary twice, on") << QStringList{u"primary"_s, real} << "mine" << true << true
-                                           << QStringList{u"primary"_s};
+        QTest::newRow("primary by real id, off")
+            << QStringList{team.id, real} << "mine" << true << false << QStringList{team.id};
+        QTest::newRow("primary by real id, on again")
+            << QStringList{real, team.id} << "mine" << true << true << QStringList{team.id, u"primary"_s};
+        QTest::newRow("primary twice, on")
+            << QStringList{u"primary"_s, real} << "mine" << true << true << QStringList{u"primary"_s};
         QTest::newRow("primary off") << QStringList{} << "mine" << false << true << QStringList{u"primary"_s};
         QTest::newRow("other on") << QStringList{u"primary"_s} << "team" << false << true
                                   << QStringList{u"primary"_s, team.id};
@@ -49,8 +49,8 @@ private Q_SLOTS:
                                    << QStringList{u"primary"_s};
         QTest::newRow("read-only on") << QStringList{} << "holidays" << false << true << QStringList{holidays.id};
         // "primary" in the list says nothing of a calendar that isn't the primary one.
-        QTest::newRow("key is not an id") << QStringList{u"primary"_s} << "holidays" << false << false
-                                          << QStringList{u"primary"_s};
+        QTest::newRow("key is not an id")
+            << QStringList{u"primary"_s} << "holidays" << false << false << QStringList{u"primary"_s};
     }
     void conflictSwitch()
     {

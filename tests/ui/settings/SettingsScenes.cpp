@@ -44,8 +44,8 @@ QUORVANE_SCENES(settings)
         while (stage.app().model().loading()) // the refresh at start
             Stage::wait(50);
         stage.app().transport().data.google->calendars->append(
-            CalendarItem{u"en.usa#holiday@group.v.calendar.google.com"_s, u"Holidays in United States"_s, false,
-                         false, u"#FF9500"_s});
+            CalendarItem{u"en.usa#holiday@group.v.calendar.google.com"_s, u"Holidays in United States"_s, false, false,
+                         u"#FF9500"_s});
         QCoro::waitFor(stage.app().model().refresh());
     };
     // "Add to" open: the read-only calendar isn't offered.
@@ -64,8 +64,9 @@ QUORVANE_SCENES(settings)
     };
     const auto offered = [](Stage &stage) {
         const QDateTime now = stage.app().clock.now();
-        stage.app().updater.found(now.addSecs(-2 * 3600), u"Quorvane 2.1 is available. Your package manager delivers it."_s,
-                                  u"2.1"_s, u"https://quorvane.example/releases/2.1"_s);
+        stage.app().updater.found(now.addSecs(-2 * 3600),
+                                  u"Quorvane 2.1 is available. Your package manager delivers it."_s, u"2.1"_s,
+                                  u"https://quorvane.example/releases/2.1"_s);
     };
     const auto checked = [](Stage &stage) {
         stage.app().updater.found(stage.app().clock.now().addDays(-1), u"Quorvane is up to date."_s);

@@ -1,8 +1,8 @@
 // The settings panes against the sandbox on loopback, the keyring of the test's own session
 // and a notification server on a private bus: signing out, and the reminder time.
-#include "support/MemoryLoginItem.h"
 #include "ModelRig.h"
 #include "onboarding/SetupServices.h"
+#include "support/MemoryLoginItem.h"
 #include "ui/components/ItemLookup.h"
 
 #include <QCoroTask>

@@ -61,8 +61,7 @@ private Q_SLOTS:
         QTRY_VERIFY(rig.shows(u"conflict.team@varga.studio"_s));
         QVERIFY(rig.checked(u"conflict.primary"_s));
         rig.click(u"conflict.team@varga.studio"_s);
-        QTRY_COMPARE(rig.model().draftSettings()->busyCalendarIDs,
-                     (QStringList{u"primary"_s, u"team@varga.studio"_s}));
+        QTRY_COMPARE(rig.model().draftSettings()->busyCalendarIDs, (QStringList{u"primary"_s, u"team@varga.studio"_s}));
         rig.choose(u"bookingCalendar"_s, 1);
         QCOMPARE(rig.model().draftSettings()->bookingCalendarID, u"team@varga.studio"_s);
         QTRY_COMPARE(rig.item(u"bookingCalendar"_s)->property("currentIndex").toInt(), 1);
