@@ -43,7 +43,10 @@ SettingsForm {
                 textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 color: Style.accent
-                font.underline: linkArea.containsMouse
+                font.underline: linkArea.containsMouse || activeFocus
+                activeFocusOnTab: true
+                Keys.onReturnPressed: account.openPage()
+                Keys.onSpacePressed: account.openPage()
                 Accessible.role: Accessible.Link
                 Accessible.name: "Booking page " + account.pageLink
                 MouseArea {
