@@ -15,6 +15,7 @@ set(QUORVANE_FEATURES
     onboarding
     about
     updates
+    settings
 )
 
 # Adds the folder of every feature that the current source directory has.

@@ -130,6 +130,11 @@ void FixtureApp::registerQmlSingletons()
             QQmlEngine::setObjectOwnership(&current->setup(), QQmlEngine::CppOwnership);
             return &current->setup();
         });
+    qmlRegisterSingletonType<Updater>("Quorvane.App", 1, 0, "Updates", [](QQmlEngine *, QJSEngine *) -> Updater * {
+        Q_ASSERT_X(current, "FixtureApp", "a FixtureApp must exist");
+        QQmlEngine::setObjectOwnership(&current->updater, QQmlEngine::CppOwnership);
+        return &current->updater;
+    });
 }
 
 } // namespace quorvane::test

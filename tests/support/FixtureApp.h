@@ -5,6 +5,7 @@
 #include "FixtureTransport.h"
 #include "MemoryLoginItem.h"
 #include "MemorySecretStore.h"
+#include "MemoryUpdater.h"
 #include "QuietNotifier.h"
 #include "UrlOpener.h"
 #include "model/AppModel.h"
@@ -71,7 +72,7 @@ public:
     [[nodiscard]] const QString &dataDirectory() const { return m_dataDirectory; }
     [[nodiscard]] static const char *name(State state);
 
-    // Makes `App`, `Shell`, `Commands` and `Setup` in QML resolve to the newest FixtureApp. Once per process,
+    // Makes `App`, `Shell`, `Commands`, `Setup` and `Updates` in QML resolve to the newest FixtureApp. Once per process,
     // before the first engine loads anything; each new engine sees the app alive then.
     static void registerQmlSingletons();
 
@@ -80,6 +81,7 @@ public:
     QuietNotifier notifier;
     FixtureClipboard clipboard;
     MemoryLoginItem loginItem;
+    MemoryUpdater updater;
     QList<QUrl> opened;
     UrlOpener opener;
 

@@ -18,9 +18,10 @@ public:
         reminders = int(bookings.size());
     }
     void removeAll() override { reminders = 0; }
-    QCoro::Task<bool> authorized() override { co_return true; }
-    QCoro::Task<bool> requestAuthorization() override { co_return true; }
+    QCoro::Task<bool> authorized() override { co_return authorizes; }
+    QCoro::Task<bool> requestAuthorization() override { co_return authorizes; }
 
+    bool authorizes = true; // false: as on a desktop where no notification service answers
     int announced = 0;
     int reminders = 0;
 };

@@ -50,6 +50,20 @@ OnboardingModel *SetupServices::createOnboarding(QObject *owner)
     return onboarding;
 }
 
+LoginSwitch *SetupServices::createLoginSwitch(QObject *owner)
+{
+    auto *login = new LoginSwitch(m_loginItem, owner);
+    QQmlEngine::setObjectOwnership(login, QQmlEngine::CppOwnership);
+    return login;
+}
+
+NotificationAccess *SetupServices::createNotificationAccess(QObject *owner)
+{
+    auto *access = new NotificationAccess(*m_environment.notifier, owner);
+    QQmlEngine::setObjectOwnership(access, QQmlEngine::CppOwnership);
+    return access;
+}
+
 QString SetupServices::spokenCode(const QString &code)
 {
     return SignInText::spokenCode(code);

@@ -4,6 +4,8 @@
 #include "model/AppEnvironment.h"
 #include "onboarding/DeviceSignIn.h"
 #include "onboarding/OnboardingModel.h"
+#include "settings/LoginSwitch.h"
+#include "settings/NotificationAccess.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -39,6 +41,9 @@ public:
     Q_INVOKABLE bool openAgain(quorvane::DeviceSignIn *auth) const;
     // A first-run guide for one window, ending with `owner`.
     Q_INVOKABLE quorvane::OnboardingModel *createOnboarding(QObject *owner);
+    // The settings window's login switch and notification check, each ending with `owner`.
+    Q_INVOKABLE quorvane::LoginSwitch *createLoginSwitch(QObject *owner);
+    Q_INVOKABLE quorvane::NotificationAccess *createNotificationAccess(QObject *owner);
     Q_INVOKABLE static QString spokenCode(const QString &code);
 
     [[nodiscard]] QString signedInLabel() const;

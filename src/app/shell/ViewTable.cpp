@@ -47,9 +47,10 @@ QmlType content(AppWindow::Id window)
         return {u"Quorvane.Onboarding"_s, u"OnboardingView"_s};
     case AppWindow::About:
         return {u"Quorvane.About"_s, u"AboutView"_s};
+    case AppWindow::Settings:
+        return {u"Quorvane.Settings"_s, u"SettingsView"_s};
     case AppWindow::Main:
     case AppWindow::Share:
-    case AppWindow::Settings:
         break;
     }
     return {};

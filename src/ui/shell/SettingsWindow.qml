@@ -13,6 +13,9 @@ ApplicationWindow {
     height: hook.provided ? hook.implicitHeight : 460
     minimumWidth: hook.provided ? hook.implicitWidth : 480
     minimumHeight: hook.provided ? hook.implicitHeight : 360
+    // The panes are laid out for one size.
+    maximumWidth: hook.provided ? hook.implicitWidth : 16777215
+    maximumHeight: hook.provided ? hook.implicitHeight : 16777215
 
     ViewHook {
         id: hook
