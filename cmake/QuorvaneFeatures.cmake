@@ -13,6 +13,7 @@ set(QUORVANE_FEATURES
     tray
     onboarding
     about
+    share
 )
 
 # Adds the folder of every feature that the current source directory has.
