@@ -8,6 +8,7 @@ set(QUORVANE_FEATURES
     main
     today
     bookings
+    types
     polls
     insights
     tray

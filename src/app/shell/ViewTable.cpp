@@ -16,6 +16,7 @@ QmlType section(AppSection section)
     case AppSection::insights:
         return {u"Quorvane.Insights"_s, u"InsightsView"_s};
     case AppSection::types:
+        return {u"Quorvane.Types"_s, u"EventTypesView"_s};
     case AppSection::availability:
         break;
     }
