@@ -47,8 +47,9 @@ QmlType content(AppWindow::Id window)
         return {u"Quorvane.Onboarding"_s, u"OnboardingView"_s};
     case AppWindow::About:
         return {u"Quorvane.About"_s, u"AboutView"_s};
-    case AppWindow::Main:
     case AppWindow::Share:
+        return {u"Quorvane.Share"_s, u"QuickShareView"_s};
+    case AppWindow::Main:
     case AppWindow::Settings:
         break;
     }
