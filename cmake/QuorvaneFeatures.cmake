@@ -15,6 +15,7 @@ set(QUORVANE_FEATURES
     onboarding
     about
     share
+    palette
 )
 
 # Adds the folder of every feature that the current source directory has.

@@ -61,6 +61,11 @@ QmlType newPollSheet()
     return {u"Quorvane.Polls"_s, u"NewPollSheet"_s};
 }
 
+QmlType commandPalette()
+{
+    return {u"Quorvane.Palette"_s, u"CommandPalette"_s};
+}
+
 QmlType popover()
 {
     return {u"Quorvane.Tray"_s, u"MenuBarPopover"_s};
@@ -73,7 +78,7 @@ QList<QmlType> all()
         out << section(s);
     for (const AppWindow::Id w : AppWindow::all())
         out << window(w) << content(w);
-    out << newPollSheet() << popover();
+    out << newPollSheet() << commandPalette() << popover();
     out.removeIf([](const QmlType &type) { return type.isNull(); });
     return out;
 }
