@@ -7,6 +7,7 @@
 #include "UrlOpener.h"
 #include "components/IconProvider.h"
 #include "linux/AutostartLoginItem.h"
+#include "linux/DesktopHotKey.h"
 #include "linux/FreedesktopNotifier.h"
 #include "linux/LibsecretStore.h"
 #include "linux/Login1WakeMonitor.h"
@@ -143,6 +144,16 @@ int main(int argc, char *argv[])
     if (engine.rootObjects().isEmpty())
         return 1;
     TrayController tray(engine, model);
+    // Ctrl+Alt+Super+S from any application opens Share Times, raised with the desktop's
+    // permission where it sends one.
+    const std::unique_ptr<HotKey> hotKey = makeDesktopHotKey(QDBusConnection::sessionBus());
+    if (hotKey) {
+        QObject::connect(hotKey.get(), &HotKey::pressed, &shell, [&shell](const QString &activationToken) {
+            if (!activationToken.isEmpty())
+                qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+            shell.open(AppWindow::Share);
+        });
+    }
     if (const std::optional<AppWindow::Id> window = AppWindow::fromName(options.window); window != AppWindow::Main)
         shell.open(window.value_or(AppWindow::Main));
     return QApplication::exec();
