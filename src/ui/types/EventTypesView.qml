@@ -80,6 +80,7 @@ SplitView {
                 symbol: "plus"
                 flat: true
                 onClicked: types.add()
+                Keys.onReturnPressed: clicked()
                 Accessible.name: qsTr("New event type")
                 ToolTip.visible: hovered
                 ToolTip.delay: 600
@@ -91,6 +92,7 @@ SplitView {
                 flat: true
                 enabled: types.canDelete
                 onClicked: types.remove(types.currentRow)
+                Keys.onReturnPressed: clicked()
                 Accessible.name: qsTr("Delete event type")
                 ToolTip.visible: hovered
                 ToolTip.delay: 600

@@ -22,6 +22,7 @@ FormSection {
             implicitWidth: 36
             implicitHeight: 24
             onClicked: colorDialog.open()
+            Keys.onReturnPressed: clicked()
             Accessible.name: qsTr("Color")
             ToolTip.visible: hovered
             ToolTip.delay: 600
@@ -51,6 +52,7 @@ FormSection {
         Switch {
             objectName: "activeSwitch"
             text: qsTr("Active")
+            Accessible.name: text
             checked: root.editor.active
             onToggled: root.editor.active = checked
             ToolTip.visible: hovered
@@ -92,6 +94,7 @@ FormSection {
 
     ColorDialog {
         id: colorDialog
+        objectName: "colorDialog"
         title: qsTr("Color")
         selectedColor: root.editor.color
         onAccepted: root.editor.color = selectedColor

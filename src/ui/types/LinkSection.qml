@@ -51,6 +51,7 @@ FormSection {
         Button {
             objectName: "copyTypeLink"
             text: qsTr("Copy")
+            Accessible.name: text
             icon.source: Style.icon("doc.on.doc", palette.buttonText)
             onClicked: root.editor.copyLink()
             Keys.onReturnPressed: clicked()
@@ -58,6 +59,7 @@ FormSection {
         Button {
             objectName: "openTypeLink"
             text: qsTr("Open")
+            Accessible.name: text
             icon.source: Style.icon("safari", palette.buttonText)
             onClicked: root.editor.open()
             Keys.onReturnPressed: clicked()

@@ -42,6 +42,7 @@ FormSection {
                 tint: Style.red
                 flat: true
                 onClicked: root.editor.removeQuestion(question.index)
+                Keys.onReturnPressed: clicked()
                 Accessible.name: qsTr("Remove question %1").arg(question.modelData)
             }
         }
@@ -62,6 +63,7 @@ FormSection {
         Button {
             objectName: "addQuestion"
             text: qsTr("Add")
+            Accessible.name: text
             enabled: root.editor.canAddQuestion
             onClicked: root.editor.addQuestion()
             Keys.onReturnPressed: clicked()

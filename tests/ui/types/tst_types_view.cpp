@@ -4,6 +4,7 @@
 #include "FixtureApp.h"
 #include "ui/components/ItemLookup.h"
 
+#include <QAccessible>
 #include <QQuickStyle>
 
 #include "QuorvaneQmlModules.h"
@@ -101,6 +102,17 @@ private Q_SLOTS:
         chips.at(4)->forceActiveFocus(Qt::TabFocusReason);
         rig.key(Qt::Key_Space);
         QCOMPARE(rig.draft(u"et-consult"_s).colorHex, u"#FF375F"_s);
+
+        // The well's dialog starts at the type's colour and gives back a hex text.
+        rig.click(u"colorWell"_s);
+        QObject *dialog = rig.engine.rootObjects().first()->findChild<QObject *>(u"colorDialog"_s);
+        QVERIFY(dialog);
+        QTRY_VERIFY(dialog->property("visible").toBool());
+        QCOMPARE(dialog->property("selectedColor").value<QColor>(), QColor(u"#FF375F"_s));
+        dialog->setProperty("selectedColor", QColor::fromRgbF(0.07, 0.23, 0.74));
+        QMetaObject::invokeMethod(dialog, "accept");
+        QCOMPARE(rig.draft(u"et-consult"_s).colorHex, u"#123BBD"_s);
+        QVERIFY2(rig.warnings.isEmpty(), qPrintable(rig.warnings.join(u'\n')));
     }
 
     // The arrows select, Alt with them moves the selected type, and the selection stays on it.
@@ -120,6 +132,53 @@ private Q_SLOTS:
         QCOMPARE(rig.order().at(2), u"et-consult"_s);
         rig.key(Qt::Key_Up);
         QCOMPARE(rig.types->property("selection").toString(), u"et-deep-dive"_s);
+    }
+
+    // A row dragged two rows down lands there, selected or not.
+    void dragReorder()
+    {
+        Rig rig;
+        QVERIFY(rig.open());
+        const QQuickItem *row = rig.all(u"typeSquare"_s).at(0);
+        const QPoint from = row->mapToScene(QPointF(row->width() / 2, row->height() / 2)).toPoint();
+        const int rowHeight = qRound(rig.all(u"typeSquare"_s).at(1)->mapToScene({}).y() - row->mapToScene({}).y());
+        QTest::mousePress(rig.window, Qt::LeftButton, {}, from);
+        for (int step = 1; step <= 10; ++step)
+            QTest::mouseMove(rig.window, from + QPoint(0, step * 2 * rowHeight / 10));
+        QTest::mouseRelease(rig.window, Qt::LeftButton, {}, from + QPoint(0, 2 * rowHeight));
+        QCOMPARE(rig.order(), (QStringList{u"et-consult"_s, u"et-deep-dive"_s, u"et-intro"_s, u"et-office-hours"_s}));
+    }
+
+    // Tab walks every control of the editor, and each has a name to be read out.
+    void tabWalk()
+    {
+        Rig rig;
+        QVERIFY(rig.open());
+        rig.select(u"et-deep-dive"_s); // with a question and its remove button
+        QTest::qWait(50);
+        rig.item(u"colorWell"_s)->forceActiveFocus(Qt::TabFocusReason);
+        QStringList names;
+        for (int i = 0; i < 40 && !names.contains(u"Add"_s); ++i) {
+            // A control's inner field takes the focus for it (a stepper's number, say).
+            QQuickItem *focused = rig.window->activeFocusItem();
+            QString name;
+            for (QQuickItem *at = focused; at && name.isEmpty() && at != focused->parentItem()->parentItem();
+                 at = at->parentItem()) {
+                const QAccessibleInterface *face = QAccessible::queryAccessibleInterface(at);
+                name = face ? face->text(QAccessible::Name) : QString();
+            }
+            QVERIFY2(!name.isEmpty(), focused->metaObject()->className());
+            names.append(name);
+            // "Add" takes the focus once there is a question to add.
+            if (name == u"Add a required question"_s)
+                rig.type("Phone?");
+            rig.key(Qt::Key_Tab);
+        }
+        for (const QString &expected :
+             {u"Color"_s, u"Title"_s, u"Active"_s, u"Color #5E5CE6"_s, u"Description"_s, u"URL slug"_s, u"Copy"_s,
+              u"Open"_s, u"Duration"_s, u"Buffer before"_s, u"Buffer after"_s, u"Where"_s,
+              u"Remove question What should we cover?"_s, u"Add a required question"_s, u"Add"_s})
+            QVERIFY2(names.contains(expected), qPrintable(expected + u" not in "_s + names.join(u" | "_s)));
     }
 
     // Ctrl+N adds a type and opens it in the editor; the minus deletes it again.
