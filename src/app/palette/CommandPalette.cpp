@@ -15,7 +15,7 @@ namespace quorvane::CommandPalette {
 
 namespace {
 
-QString subtitle(const Command &command, const AppModel &app)
+QString shortcutOrLink(const Command &command, const AppModel &app)
 {
     const QString name = command.objectName();
     if (name == "shareTimes"_L1)
@@ -33,28 +33,43 @@ QList<PaletteCommand> commands(AppModel &app, const CommandTable &table, const I
 {
     QList<PaletteCommand> out;
     for (Command *command : table.paletteCommands())
-        out.append(
-            {command->paletteTitle(), subtitle(*command, app), command->symbol(), [command] { command->trigger(); }});
+        out.append({command->paletteTitle(), shortcutOrLink(*command, app), {}, command->symbol(), [command] {
+                        command->trigger();
+                    }});
 
     AppModel *model = &app;
     if (const std::optional<Booking> next = app.next(); next && next->meetURL()) {
-        out.append({u"Join next meeting"_s, u"%1 · %2"_s.arg(next->name, Countdown::shortText(next->start, now)),
-                    u"video.fill"_s, [model, booking = *next] { model->join(booking); }});
+        out.append({u"Join next meeting"_s,
+                    u"%1 · %2"_s.arg(next->name, Countdown::shortText(next->start, now)),
+                    {},
+                    u"video.fill"_s,
+                    [model, booking = *next] { model->join(booking); }});
     }
     for (const EventType &type : app.activeTypes())
         out.append(
-            {u"Copy link: "_s + type.title, app.link(type), u"link"_s, [model, type] { model->copyLink(type); }});
+            {u"Copy link: "_s + type.title, app.link(type), {}, u"link"_s, [model, type] { model->copyLink(type); }});
 
+    QHash<QString, QString> titles; // by slug, inactive types too
+    for (const EventType &type : app.eventTypes())
+        titles.insert(type.slug, type.title);
+    const QString unknown = app.typeTitle({}); // what a booking of a type that is gone reads
     const QList<Booking> bookings = app.allBookings();
     for (const Booking &booking : bookings.first(std::min<qsizetype>(bookings.size(), maxBookings))) {
-        out.append({u"%1 — %2"_s.arg(booking.name, app.typeTitle(booking.type)),
-                    Formats::format(booking.start, u"MMMdjmm"_s, app.locale(), app.zone()), u"person"_s,
+        out.append({u"%1 — %2"_s.arg(booking.name, titles.value(booking.type, unknown)),
+                    {},
+                    booking.start,
+                    u"person"_s,
                     [model, id = booking.id] {
                         model->setSection(AppSection::bookings);
                         model->setSelectedBooking(id);
                     }});
     }
     return out;
+}
+
+QString subtitle(const PaletteCommand &command, const QString &locale, const QString &zone)
+{
+    return command.date ? Formats::format(*command.date, u"MMMdjmm"_s, locale, zone) : command.subtitle;
 }
 
 QList<int> results(const QList<PaletteCommand> &commands, const QString &query)

@@ -27,6 +27,9 @@ constexpr int maxBookings = 200;
 // query, else the matches by score (the list's order among equals), at most twelve.
 [[nodiscard]] QList<int> results(const QList<PaletteCommand> &commands, const QString &query);
 
+// A row's second line: its key or link, or its date as "Mar 10, 9:30 AM" in the zone.
+[[nodiscard]] QString subtitle(const PaletteCommand &command, const QString &locale, const QString &zone);
+
 } // namespace CommandPalette
 
 } // namespace quorvane

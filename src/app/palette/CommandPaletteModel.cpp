@@ -87,7 +87,7 @@ QVariant CommandPaletteModel::data(const QModelIndex &index, int role) const
     case TitleRole:
         return command.title;
     case SubtitleRole:
-        return command.subtitle;
+        return m_app ? CommandPalette::subtitle(command, m_app->locale(), m_app->zone()) : command.subtitle;
     case SymbolRole:
         return command.symbol;
     default:
