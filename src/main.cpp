@@ -50,6 +50,15 @@ int main(int argc, char *argv[])
 {
     QElapsedTimer started;
     started.start();
+    {
+        // A later launch hands its window to the running one before it starts a desktop
+        // application of its own, which alone costs more than the hand-over: a key bound to
+        // `quorvane --share` should bring the window up at once.
+        const QCoreApplication launch(argc, argv);
+        const LaunchOptions early = LaunchOptions::parse(QCoreApplication::arguments());
+        if (!early.exitCode && !early.selfTest && SingleInstance(SingleInstance::defaultPath()).forward(early.window))
+            return 0;
+    }
     QApplication app(argc, argv); // Qt Charts needs the widgets application
     QApplication::setApplicationName(u"Quorvane"_s);
     QApplication::setOrganizationName(u"Quorvane"_s);
@@ -63,7 +72,8 @@ int main(int argc, char *argv[])
         std::fprintf(*options.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(options.message));
         return *options.exitCode;
     }
-    // A second launch hands its window to the running one; the self-test is always its own.
+    // Otherwise this is the running instance, unless another became it meanwhile; the
+    // self-test is always its own.
     SingleInstance instance(SingleInstance::defaultPath());
     if (!options.selfTest && instance.handOver(options.window))
         return 0;
