@@ -1,6 +1,6 @@
 // Prints the measured figures next to their budgets. Run it through scripts/bench (an optimised
 // build); the exit code is 1 when a figure is over its budget. Names as arguments (parse,
-// insights, decode, bookings, availability, startup) run only those.
+// insights, decode, bookings, availability, palette, startup, share) run only those.
 
 #include "AvailabilityBench.h"
 #include "BenchReport.h"
@@ -9,6 +9,7 @@
 #include "JSON.h"
 #include "NLAvailability.h"
 #include "SampleBookings.h"
+#include "ShareBench.h"
 #include "Snapshot.h"
 #include "Startup.h"
 
@@ -91,7 +92,11 @@ int main(int argc, char *argv[])
         ok = bench::benchBookings(bookings) && ok;
     if (runs("availability"))
         ok = bench::benchAvailability() && ok;
+    if (runs("palette"))
+        ok = bench::benchPalette() && ok;
     if (runs("startup"))
         ok = bench::benchStartup(QString::fromLocal8Bit(argv[0]), QStringLiteral(QUORVANE_APP_PATH)) && ok;
+    if (runs("share"))
+        ok = bench::benchShareOpening(QString::fromLocal8Bit(argv[0]), QStringLiteral(QUORVANE_APP_PATH)) && ok;
     return ok ? 0 : 1;
 }

@@ -8,12 +8,15 @@ set(QUORVANE_FEATURES
     main
     today
     bookings
+    types
     availability
     polls
     insights
     tray
     onboarding
     about
+    share
+    palette
     updates
     settings
 )

@@ -9,6 +9,7 @@
 #include "UrlOpener.h"
 #include "components/IconProvider.h"
 #include "linux/AutostartLoginItem.h"
+#include "linux/DesktopHotKey.h"
 #include "linux/FreedesktopNotifier.h"
 #include "linux/LibsecretStore.h"
 #include "linux/Login1WakeMonitor.h"
@@ -57,6 +58,15 @@ int main(int argc, char *argv[])
 {
     QElapsedTimer started;
     started.start();
+    {
+        // A later launch hands its window to the running one before it starts a desktop
+        // application of its own, which alone costs more than the hand-over: a key bound to
+        // `quorvane --share` should bring the window up at once.
+        const QCoreApplication launch(argc, argv);
+        const LaunchOptions early = LaunchOptions::parse(QCoreApplication::arguments());
+        if (!early.exitCode && !early.selfTest && SingleInstance(SingleInstance::defaultPath()).forward(early.window))
+            return 0;
+    }
     QApplication app(argc, argv); // Qt Charts needs the widgets application
     QApplication::setApplicationName(u"Quorvane"_s);
     QApplication::setOrganizationName(u"Quorvane"_s);
@@ -70,7 +80,8 @@ int main(int argc, char *argv[])
         std::fprintf(*options.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(options.message));
         return *options.exitCode;
     }
-    // A second launch hands its window to the running one; the self-test is always its own.
+    // Otherwise this is the running instance, unless another became it meanwhile; the
+    // self-test is always its own.
     SingleInstance instance(SingleInstance::defaultPath());
     if (!options.selfTest && instance.handOver(options.window))
         return 0;
@@ -173,6 +184,16 @@ int main(int argc, char *argv[])
     TrayController tray(engine, model);
     if (install == FeedUpdater::Install::portable)
         StagedUpdate::confirmStarted(executable);
+    // Ctrl+Alt+Super+S from any application opens Share Times, raised with the desktop's
+    // permission where it sends one.
+    const std::unique_ptr<HotKey> hotKey = makeDesktopHotKey(QDBusConnection::sessionBus());
+    if (hotKey) {
+        QObject::connect(hotKey.get(), &HotKey::pressed, &shell, [&shell](const QString &activationToken) {
+            if (!activationToken.isEmpty())
+                qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+            shell.open(AppWindow::Share);
+        });
+    }
     if (const std::optional<AppWindow::Id> window = AppWindow::fromName(options.window); window != AppWindow::Main)
         shell.open(window.value_or(AppWindow::Main));
     return QApplication::exec();

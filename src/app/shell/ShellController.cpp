@@ -31,6 +31,11 @@ QQmlComponent *ShellController::newPollSheet(QObject *user)
     return component(user, ViewTable::newPollSheet());
 }
 
+QQmlComponent *ShellController::commandPalette(QObject *user)
+{
+    return component(user, ViewTable::commandPalette());
+}
+
 QQmlComponent *ShellController::component(QObject *user, const QmlType &type)
 {
     QQmlEngine *engine = qmlEngine(user);

@@ -15,10 +15,10 @@ QmlType section(AppSection section)
         return {u"Quorvane.Polls"_s, u"PollsView"_s};
     case AppSection::insights:
         return {u"Quorvane.Insights"_s, u"InsightsView"_s};
+    case AppSection::types:
+        return {u"Quorvane.Types"_s, u"EventTypesView"_s};
     case AppSection::availability:
         return {u"Quorvane.Availability"_s, u"AvailabilityView"_s};
-    case AppSection::types:
-        break;
     }
     return {};
 }
@@ -49,8 +49,9 @@ QmlType content(AppWindow::Id window)
         return {u"Quorvane.About"_s, u"AboutView"_s};
     case AppWindow::Settings:
         return {u"Quorvane.Settings"_s, u"SettingsView"_s};
-    case AppWindow::Main:
     case AppWindow::Share:
+        return {u"Quorvane.Share"_s, u"QuickShareView"_s};
+    case AppWindow::Main:
         break;
     }
     return {};
@@ -59,6 +60,11 @@ QmlType content(AppWindow::Id window)
 QmlType newPollSheet()
 {
     return {u"Quorvane.Polls"_s, u"NewPollSheet"_s};
+}
+
+QmlType commandPalette()
+{
+    return {u"Quorvane.Palette"_s, u"CommandPalette"_s};
 }
 
 QmlType popover()
@@ -73,7 +79,7 @@ QList<QmlType> all()
         out << section(s);
     for (const AppWindow::Id w : AppWindow::all())
         out << window(w) << content(w);
-    out << newPollSheet() << popover();
+    out << newPollSheet() << commandPalette() << popover();
     out.removeIf([](const QmlType &type) { return type.isNull(); });
     return out;
 }

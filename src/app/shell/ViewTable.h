@@ -19,6 +19,8 @@ namespace ViewTable {
 [[nodiscard]] QmlType content(AppWindow::Id window);
 // The sheet over the main window that makes a new poll.
 [[nodiscard]] QmlType newPollSheet();
+// The command palette over the main window.
+[[nodiscard]] QmlType commandPalette();
 // The tray icon's popover.
 [[nodiscard]] QmlType popover();
 // Every row above, for the self-test to make each once.

@@ -94,14 +94,15 @@ ApplicationWindow {
         }
     }
 
-    // The command palette covers the whole window while it is asked for; its screen sets
-    // this loader's source. Until then Escape at least takes the request back.
+    // The command palette covers the whole window while it is asked for, made afresh at each
+    // opening. Should it fail to load, Escape at least takes the request back.
     Loader {
         id: commandPaletteSlot
         objectName: "commandPaletteSlot"
         anchors.fill: parent
         z: 10
         active: App.showPalette
+        sourceComponent: active ? Shell.commandPalette(window) : null
     }
     Shortcut {
         sequence: "Escape"

@@ -96,6 +96,9 @@ private Q_SLOTS:
         QTest::newRow("composed vs decomposed") << u"\u00e9"_s << u"e\u0301t\u00e9"_s << 57;
         QTest::newRow("accent isn't the base letter") << u"e"_s << u"\u00e9"_s << none;
         QTest::newRow("emoji counts once") << u"a"_s << u"\U0001F44D\U0001F3FD a"_s << 57;
+        QTest::newRow("CR LF counts once") << u"x"_s << u"a\r\nx"_s << 7;
+        QTest::newRow("a palette row") << u"toma"_s << u"Tom\u00e1s \u2014 Intro Call"_s << 132;
+        QTest::newRow("dotted capital I") << u"i"_s << u"\u0130x"_s << none;
     }
     void fuzzy()
     {

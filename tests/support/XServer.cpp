@@ -1,0 +1,56 @@
+#include "support/XServer.h"
+
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace quorvane::test {
+
+XServer::XServer()
+{
+    for (const char *tool : {"Xvfb", "xdotool"}) {
+        if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty()) {
+            m_missing = QString::fromLatin1(tool) + u" is not installed (see scripts/debian-packages.txt)"_s;
+            return;
+        }
+    }
+    // -displayfd 1: the server picks a free display and writes its number once ready.
+    m_x.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x800x24"_s, u"-nolisten"_s, u"tcp"_s});
+    if (!m_x.waitForStarted() || !m_x.waitForReadyRead(10'000))
+        m_missing = u"Xvfb did not start"_s;
+    else
+        m_display = u":"_s + QString::fromLatin1(m_x.readAllStandardOutput().trimmed());
+}
+
+XServer::~XServer()
+{
+    m_x.terminate();
+    m_x.waitForFinished(3000);
+}
+
+QProcessEnvironment XServer::environment() const
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(u"DISPLAY"_s, m_display);
+    env.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    return env;
+}
+
+bool XServer::xdotool(const QStringList &arguments, QByteArray *output) const
+{
+    QProcess tool;
+    tool.setProcessEnvironment(environment());
+    tool.start(u"xdotool"_s, arguments);
+    const bool done = tool.waitForFinished(5000) && tool.exitCode() == 0;
+    if (output)
+        *output = tool.readAllStandardOutput();
+    return done;
+}
+
+bool XServer::shows(const QString &title) const
+{
+    return xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^"_s + QRegularExpression::escape(title) + u"$"_s});
+}
+
+} // namespace quorvane::test
