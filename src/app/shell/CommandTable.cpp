@@ -106,9 +106,11 @@ CommandTable::CommandTable(AppModel &model, ShellController &shell, const UrlOpe
                  u"arrow.down.circle"_s,
                  {},
                  {},
-                 [updater = m_updater] {
+                 // What the check finds shows in the Updates pane.
+                 [updater = m_updater, windows] {
                      if (*updater)
                          (*updater)->check();
+                     windows->openSettings(u"updates"_s);
                  },
                  [updater = m_updater] { return *updater && (*updater)->canCheck(); }});
     rows.append({u"madeBy"_s, About::madeBy(maker.name.trimmed()), u"person"_s, {}, {}, open(AppWindow::About)});

@@ -22,6 +22,8 @@ class ShellController : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("Made by the application and reached as Shell.")
     Q_PROPERTY(bool startHidden READ startHidden CONSTANT)
+    // The settings pane asked for last ("updates"), which the settings window turns to.
+    Q_PROPERTY(QString settingsPane READ settingsPane NOTIFY settingsPaneRequested)
 
 public:
     using QObject::QObject;
@@ -32,6 +34,14 @@ public:
 
     // Brings the app to the front and opens (or raises) that window.
     Q_INVOKABLE void open(quorvane::AppWindow::Id window) { Q_EMIT openRequested(window); }
+    // Opens the settings window on one of its panes.
+    Q_INVOKABLE void openSettings(const QString &pane)
+    {
+        m_settingsPane = pane;
+        Q_EMIT settingsPaneRequested();
+        open(AppWindow::Settings);
+    }
+    [[nodiscard]] const QString &settingsPane() const { return m_settingsPane; }
     // Ends the process: the tray's "Quit Quorvane".
     Q_INVOKABLE void quit() { Q_EMIT quitRequested(); }
 
@@ -50,12 +60,14 @@ public:
 Q_SIGNALS:
     void openRequested(quorvane::AppWindow::Id window);
     void quitRequested();
+    void settingsPaneRequested();
 
 private:
     [[nodiscard]] QQmlComponent *component(QObject *user, const QmlType &type);
 
     QHash<QString, QPointer<QQmlComponent>> m_components;
     bool m_startHidden = false;
+    QString m_settingsPane;
 };
 
 } // namespace quorvane

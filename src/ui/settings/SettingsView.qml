@@ -15,6 +15,19 @@ Item {
     implicitWidth: 520
     implicitHeight: 400
 
+    // Turns to the pane the shell was asked for, such as "updates" from Check for Updates.
+    function turnTo(pane: string) {
+        for (let i = 0; i < tabs.count; ++i) {
+            if (tabs.itemAt(i).objectName === "tab." + pane)
+                tabs.currentIndex = i
+        }
+    }
+    Component.onCompleted: turnTo(Shell.settingsPane)
+    Connections {
+        target: Shell
+        function onSettingsPaneRequested() { root.turnTo(Shell.settingsPane) }
+    }
+
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
