@@ -1,5 +1,5 @@
 // Share Times: loading, the days with their stars, three picks with the message, a failed
-// fetch, and a host with no type to offer.
+// fetch, a host with no type to offer, and the times shown in a guest's zone.
 #include "SceneTable.h"
 #include "Stage.h"
 
@@ -54,5 +54,10 @@ QUORVANE_SCENES(share)
         QCoro::waitFor(stage.app().model().refresh());
         call(stage, "open");
     });
-    return {loading, chips, picks, failed, noTimes};
+    // The host in New York offers a guest in Berlin the same times in the guest's own zone.
+    Scene berlin = shareScene(u"share-times-in-berlin"_s, [](Stage &stage) {
+        stage.set(u"quickShareModel"_s, "zone", u"Europe/Berlin"_s);
+        call(stage, "suggestBest");
+    });
+    return {loading, chips, picks, failed, noTimes, berlin};
 }
