@@ -95,6 +95,7 @@ void FixtureApp::prepare(const Options &options)
     m_model = std::make_unique<AppModel>(env);
     m_setup = std::make_unique<SetupServices>(*m_model, env, loginItem);
     m_commands = std::make_unique<CommandTable>(*m_model, m_shell, opener);
+    m_commands->attachUpdater(&updater);
 
     // The banners as the first refresh would leave them, there before anything starts.
     if (state == State::offline)

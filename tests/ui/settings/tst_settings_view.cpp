@@ -4,6 +4,7 @@
 #include "ui/components/ItemLookup.h"
 
 #include <QQuickStyle>
+#include <QSignalSpy>
 
 #include "QuorvaneQmlModules.h"
 
@@ -79,6 +80,19 @@ private Q_SLOTS:
     }
 
     // "Remind me" goes away with reminders and comes back with the same value.
+    // Check for Updates turns an open settings window to its Updates pane.
+    void turnsToTheAskedPane()
+    {
+        Rig rig;
+        QVERIFY_READY(rig);
+        QSignalSpy asked(&rig.shell(), &ShellController::settingsPaneRequested);
+        QVERIFY(rig.commands().get(CommandId::CheckForUpdates)->enabled());
+        rig.commands().get(CommandId::CheckForUpdates)->trigger();
+        QCOMPARE(asked.size(), 1);
+        QTRY_COMPARE(rig.item(u"settingsTabs"_s)->property("currentIndex").toInt(), 4);
+        QVERIFY2(rig.warnings.isEmpty(), qPrintable(rig.warnings.join(u'\n')));
+    }
+
     void remindMeFollowsReminders()
     {
         Rig rig;
