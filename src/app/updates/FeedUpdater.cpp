@@ -47,8 +47,11 @@ FeedUpdater::FeedUpdater(Config config, std::shared_ptr<HTTPTransport> transport
         m_status = u"Updates aren't available in this build of Quorvane."_s;
     m_timer.setInterval(m_config.schedule);
     connect(&m_timer, &QTimer::timeout, this, &FeedUpdater::checkIfDue);
-    if (m_configured)
+    if (m_configured) {
         m_timer.start();
+        // A copy that was closed for days looks soon after it starts, not an hour later.
+        QTimer::singleShot(m_config.firstLook, this, &FeedUpdater::checkIfDue);
+    }
 }
 
 FeedUpdater::Install FeedUpdater::installOf(const QString &executable, bool builtPortable)

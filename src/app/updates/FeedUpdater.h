@@ -39,6 +39,7 @@ public:
         QString systemVersion;                         // this system's, to meet a release's minimum
         QString stagingDirectory;                      // where a portable copy keeps a verified download
         std::chrono::milliseconds schedule{3'600'000}; // how often to see whether a day has passed
+        std::chrono::milliseconds firstLook{30'000};   // after the start, the first time
     };
 
     FeedUpdater(Config config, std::shared_ptr<HTTPTransport> transport, std::function<QUrl()> server,
