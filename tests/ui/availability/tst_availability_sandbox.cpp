@@ -1,10 +1,8 @@
 // The availability screen against the sandbox on loopback: the demo's gestures, a typed
 // sentence and a rule change reach the server after the pause as one save, and a save the
 // server fails leaves the draft on screen with the banner.
-#include "ModelRig.h"
-#include "ui/components/ItemLookup.h"
+#include "ui/components/SandboxScreen.h"
 
-#include <QCoroTask>
 #include <QQuickStyle>
 
 #include "QuorvaneQmlModules.h"
@@ -15,19 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Rig {
-    bool start()
-    {
-        if (!models.ready(&why))
-            return false;
-        model = models.makeModel();
-        appForQml = model.get();
-        QCoro::waitFor(model->refresh());
-        view = std::make_unique<View>("import QtQuick\nimport Quorvane.Availability\nWindow { width: 1000; height: "
-                                      "1400; visible: true; AvailabilityView { anchors.fill: parent } }");
-        why = view->warnings.join(u'\n');
-        return view->ready();
-    }
+struct Rig : SandboxScreen {
+    bool start() { return SandboxScreen::start("Quorvane.Availability", "AvailabilityView", {1000, 1400}); }
     void drag(int weekday, double fromY, double toY) const
     {
         QQuickItem *rows = view->all(u"dayRows"_s, view->item(u"day"_s + QString::number(weekday))).value(0);
@@ -40,11 +27,6 @@ struct Rig {
     }
     [[nodiscard]] int saves() const { return models.transport->count("PUT", u"sync/settings"_s); }
     [[nodiscard]] HostSettings stored() { return models.server.sandbox().backend().settings(); }
-
-    ModelRig models;
-    std::unique_ptr<AppModel> model;
-    std::unique_ptr<View> view;
-    QString why;
 };
 
 double y(int minute)

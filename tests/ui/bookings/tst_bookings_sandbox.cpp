@@ -1,9 +1,7 @@
 // The bookings screen against the sandbox on loopback: a cancel through the confirmation, a
 // no-show marked and cleared, and a cancel the server fails.
-#include "ModelRig.h"
-#include "ui/components/ItemLookup.h"
+#include "ui/components/SandboxScreen.h"
 
-#include <QCoroTask>
 #include <QQuickStyle>
 
 #include "QuorvaneQmlModules.h"
@@ -15,22 +13,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The screen alone in a window, on a model signed in to the sandbox, with every banner kept.
-struct Rig {
+struct Rig : SandboxScreen {
     bool start()
     {
-        if (!models.ready(&why))
-            return false;
-        model = models.makeModel();
-        appForQml = model.get();
-        QObject::connect(model.get(), &AppModel::bannerChanged, model.get(), [this] {
-            if (model->banner())
-                banners << model->banner()->message;
+        return SandboxScreen::start("Quorvane.Bookings", "BookingsView", {1000, 700}, [this](AppModel &m) {
+            QObject::connect(&m, &AppModel::bannerChanged, &m, [this, &m] {
+                if (m.banner())
+                    banners << m.banner()->message;
+            });
         });
-        QCoro::waitFor(model->refresh());
-        view = std::make_unique<View>("import QtQuick\nimport Quorvane.Bookings\nWindow { width: 1000; height: 700; "
-                                      "visible: true; BookingsView { anchors.fill: parent } }");
-        why = view->warnings.join(u'\n');
-        return view->ready();
     }
     // A guest books, and the model learns of it; the booking is selected.
     Booking booked(const QString &name, qint64 fromNowSeconds)
@@ -50,11 +41,7 @@ struct Rig {
         return BookingStatus::unknown;
     }
 
-    ModelRig models;
-    std::unique_ptr<AppModel> model;
-    std::unique_ptr<View> view;
     QStringList banners;
-    QString why;
 };
 
 } // namespace

@@ -2,10 +2,8 @@
 // and named, its slug typed, 45 minutes, a phone call and two questions; after the pause the
 // server holds it and the guests' booking page offers it under the new slug, which "Open"
 // opens. Then it moves to the top of the page and is deleted.
-#include "ModelRig.h"
-#include "ui/components/ItemLookup.h"
+#include "ui/components/SandboxScreen.h"
 
-#include <QCoroTask>
 #include <QQuickStyle>
 
 #include "QuorvaneQmlModules.h"
@@ -18,19 +16,8 @@ namespace {
 
 constexpr int saveWait = 10'000; // ms: the pause before a save, on a busy machine
 
-struct Rig {
-    bool start()
-    {
-        if (!models.ready(&why))
-            return false;
-        model = models.makeModel();
-        appForQml = model.get();
-        QCoro::waitFor(model->refresh());
-        view = std::make_unique<View>("import QtQuick\nimport Quorvane.Types\nWindow { width: 1100; height: 900; "
-                                      "visible: true; EventTypesView { anchors.fill: parent } }");
-        why = view->warnings.join(u'\n');
-        return view->ready();
-    }
+struct Rig : SandboxScreen {
+    bool start() { return SandboxScreen::start("Quorvane.Types", "EventTypesView", {1100, 900}); }
     // Replaces a field's text by typing, one key at a time.
     void type(const QString &field, const QString &text) const
     {
@@ -62,11 +49,6 @@ struct Rig {
         return models.server.get(u"/jordan/"_s + slug, {});
     }
     [[nodiscard]] bool saved() const { return !model->saving() && !model->banner(); }
-
-    ModelRig models;
-    std::unique_ptr<AppModel> model;
-    std::unique_ptr<View> view;
-    QString why;
 };
 
 } // namespace
