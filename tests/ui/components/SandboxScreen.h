@@ -18,6 +18,14 @@ struct SandboxScreen {
     bool start(const QByteArray &module, const QByteArray &type, QSize size,
                const std::function<void(AppModel &)> &prepare = {})
     {
+        return start("import QtQuick\nimport " + module + "\nWindow { width: " + QByteArray::number(size.width())
+                         + "; height: " + QByteArray::number(size.height()) + "; visible: true; " + type
+                         + " { anchors.fill: parent } }",
+                     prepare);
+    }
+    // The same with the whole window written out, for a screen that needs more around it.
+    bool start(const QByteArray &windowQml, const std::function<void(AppModel &)> &prepare = {})
+    {
         if (!models.ready(&why))
             return false;
         model = models.makeModel();
@@ -25,9 +33,7 @@ struct SandboxScreen {
         if (prepare)
             prepare(*model);
         QCoro::waitFor(model->refresh());
-        view = std::make_unique<View>(
-            "import QtQuick\nimport " + module + "\nWindow { width: " + QByteArray::number(size.width()) + "; height: "
-            + QByteArray::number(size.height()) + "; visible: true; " + type + " { anchors.fill: parent } }");
+        view = std::make_unique<View>(windowQml);
         why = view->warnings.join(u'\n');
         return view->ready();
     }

@@ -1,8 +1,7 @@
 // The polls screen against the sandbox on loopback: a poll made from the sheet, its link on
 // the clipboard, a guest's vote on the public page, and a delete through the confirmation
 // after which the link stops working.
-#include "ModelRig.h"
-#include "ui/components/ItemLookup.h"
+#include "ui/components/SandboxScreen.h"
 
 #include <QCoroTask>
 #include <QQuickStyle>
@@ -26,17 +25,15 @@ private Q_SLOTS:
 
     void createVoteDelete()
     {
-        ModelRig rig;
-        QString why;
-        QVERIFY2(rig.ready(&why), qPrintable(why));
-        const std::unique_ptr<AppModel> model = rig.makeModel();
-        appForQml = model.get();
-        QCoro::waitFor(model->refresh());
+        SandboxScreen screen;
+        QVERIFY2(screen.start("import QtQuick\nimport Quorvane.App\nimport Quorvane.Polls\n"
+                              "Window { width: 900; height: 700; visible: true; PollsView { anchors.fill: parent }\n"
+                              "Loader { active: App.showNewPoll; sourceComponent: Component { NewPollSheet {} } } }"),
+                 qPrintable(screen.why));
+        ModelRig &rig = screen.models;
+        AppModel *model = screen.model.get();
+        View &view = *screen.view;
         const qsizetype before = model->snapshot().polls.size();
-        View view("import QtQuick\nimport Quorvane.App\nimport Quorvane.Polls\n"
-                  "Window { width: 900; height: 700; visible: true; PollsView { anchors.fill: parent }\n"
-                  "Loader { active: App.showNewPoll; sourceComponent: Component { NewPollSheet {} } } }");
-        QVERIFY_READY(view);
 
         // The sheet: a title, the default type, Return.
         view.click(u"newPollButton"_s);

@@ -2,9 +2,8 @@
 // Best 3 and Ctrl+C put the message on the clipboard and close the window; a failing slots
 // route shows the window's own error, and Retry recovers.
 #include "APIError.h"
-#include "ModelRig.h"
 #include "share/QuickShare.h"
-#include "ui/components/ItemLookup.h"
+#include "ui/components/SandboxScreen.h"
 
 #include <QCoroTask>
 #include <QQuickStyle>
@@ -32,14 +31,11 @@ private Q_SLOTS:
 
     void suggestAndCopy()
     {
-        ModelRig rig;
-        QString why;
-        QVERIFY2(rig.ready(&why), qPrintable(why));
-        const std::unique_ptr<AppModel> model = rig.makeModel();
-        appForQml = model.get();
-        QCoro::waitFor(model->refresh());
-        View view(host);
-        QVERIFY_READY(view);
+        SandboxScreen screen;
+        QVERIFY2(screen.start(host), qPrintable(screen.why));
+        ModelRig &rig = screen.models;
+        AppModel *model = screen.model.get();
+        View &view = *screen.view;
         view.window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(view.window));
         QTRY_VERIFY(view.shows(u"dayHeading"_s));
@@ -71,16 +67,17 @@ private Q_SLOTS:
 
     void failureAndRetry()
     {
-        ModelRig rig;
-        QString why;
-        QVERIFY2(rig.ready(&why), qPrintable(why));
-        const std::unique_ptr<AppModel> model = rig.makeModel();
-        appForQml = model.get();
-        QCoro::waitFor(model->refresh());
+        SandboxScreen screen;
         // Both tries of the GET fail.
-        rig.server.sandbox().faults().plant(u"sync/slots"_s, {500, R"({"error":"Slots are down"})", 0, false, 2});
-        View view(host);
-        QVERIFY_READY(view);
+        QVERIFY2(screen.start(host,
+                              [&screen](AppModel &) {
+                                  screen.models.server.sandbox().faults().plant(
+                                      u"sync/slots"_s, {500, R"({"error":"Slots are down"})", 0, false, 2});
+                              }),
+                 qPrintable(screen.why));
+        ModelRig &rig = screen.models;
+        AppModel *model = screen.model.get();
+        View &view = *screen.view;
         QTRY_VERIFY(view.shows(u"shareError"_s));
         QCOMPARE(rig.transport->count("GET", u"sync/slots"_s), 2);
         QCOMPARE(view.item(u"shareError"_s)->property("description").toString(),
