@@ -96,9 +96,8 @@ std::optional<Figures> median(const std::function<std::optional<Figures>()> &sta
 
 // Folders of a user who has been through the welcome guide and has 2,000 bookings cached,
 // and no keyring, notification server or reachable server.
-QProcessEnvironment appEnvironment(const QTemporaryDir &home)
+QProcessEnvironment appEnvironment(const QString &root)
 {
-    const QString root = home.path();
     for (const char *folder : {"config/Quorvane", "data/Quorvane", "cache", "home", "runtime"})
         QDir(root).mkpath(QString::fromLatin1(folder));
     QFile::setPermissions(root + u"/runtime"_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -167,6 +166,17 @@ std::optional<double> idleCpu(const QString &appPath, const QProcessEnvironment 
 
 } // namespace
 
+int prepareHome(const QString &root)
+{
+    if (!QDir().mkpath(root))
+        return 1;
+    const QProcessEnvironment env = appEnvironment(QDir(root).absolutePath());
+    for (const char *name : {"QT_QPA_PLATFORM", "HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME",
+                             "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS"})
+        std::printf("export %s='%s'\n", name, qPrintable(env.value(QString::fromLatin1(name))));
+    return 0;
+}
+
 int runFloor(const QString &kind, int &argc, char **argv)
 {
     QElapsedTimer started;
@@ -210,7 +220,7 @@ bool benchStartup(const QString &benchPath, const QString &appPath)
     });
 
     QTemporaryDir home;
-    const QProcessEnvironment env = appEnvironment(home);
+    const QProcessEnvironment env = appEnvironment(home.path());
     const QRegularExpression appLine(u"first frame after (\\d+) ms; resident (\\d+) KiB"_s);
     const auto app = median([&] {
         return runChild(appPath, {u"--self-test"_s, u"--server"_s, u"http://127.0.0.1:9"_s}, env, appLine);

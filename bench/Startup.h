@@ -9,6 +9,11 @@ namespace quorvane::bench {
 // The figures count from main(), as the app's own self-test does.
 int runFloor(const QString &kind, int &argc, char **argv);
 
+// `quorvane-bench --home DIR`: makes DIR the home of the start-up figures' user (2,000 cached
+// bookings, welcome guide done) and prints its environment as shell exports, to profile a start
+// by hand.
+int prepareHome(const QString &root);
+
 // Starts both floors and the app (`quorvane --self-test` on a cached snapshot of 2,000
 // bookings, against a server that isn't there) as child processes, then the app once more to
 // measure its idle processor use, and reports the ratios to their budgets.

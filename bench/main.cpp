@@ -73,6 +73,8 @@ int main(int argc, char *argv[])
 {
     if (argc == 3 && qstrcmp(argv[1], "--floor") == 0)
         return bench::runFloor(QString::fromLatin1(argv[2]), argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--home") == 0)
+        return bench::prepareHome(QString::fromLocal8Bit(argv[2]));
     // `quorvane-bench bookings startup` runs only those; no names, all of them.
     QStringList chosen;
     for (int i = 1; i < argc; ++i)

@@ -19,6 +19,7 @@
 #include "shell/AppWindow.h"
 #include "shell/CommandTable.h"
 #include "shell/LaunchOptions.h"
+#include "shell/QmlPreload.h"
 #include "shell/SelfTest.h"
 #include "shell/ShellController.h"
 #include "shell/SingleInstance.h"
@@ -40,6 +41,7 @@
 #include <QNetworkAccessManager>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QSysInfo>
@@ -53,6 +55,20 @@
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;
+
+namespace {
+// Registers `object` under `name` in Quorvane.App, to be read when QML first uses it; the
+// application keeps it.
+template <typename T>
+void registerSingleton(const char *name, T *const &object)
+{
+    qmlRegisterSingletonType<T>("Quorvane.App", 1, 0, name, [&object](QQmlEngine *, QJSEngine *) -> QObject * {
+        Q_ASSERT(object);
+        QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+        return object;
+    });
+}
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -95,18 +111,42 @@ int main(int argc, char *argv[])
         ::execv(QFile::encodeName(executable).constData(), argv);
     }
 
-    // The saved data is decoded on another thread while the rest starts up: it is the longest
-    // single step of a start, and the model needs it only once the interface is about to load.
+    // A start does several slow things that don't need each other, so they run side by side:
+    // the saved data is decoded, the locale's date patterns and the font database are worked
+    // out, and the buses are reached, each on a thread of its own, while the QML engine
+    // compiles the first window on its loader thread and the main thread makes the services.
     const QString dataDirectory = DataPaths::defaultDirectory();
     std::shared_future<std::optional<Snapshot>> saved =
         std::async(std::launch::async, [path = AppModel::cachePath(dataDirectory)] {
             return SnapshotCache(path).load();
         }).share();
-
     const QString locale = QLocale::system().name();
-    // The locale's date patterns, which the first screen needs, are worked out meanwhile too.
     const std::future<void> patterns =
         std::async(std::launch::async, [locale] { (void)Formats::pattern(u"jmm"_s, locale); });
+    const std::future<void> fonts = std::async(std::launch::async, [] { (void)QFontDatabase::families(); });
+    const std::future<void> buses = std::async(std::launch::async, [] {
+        (void)QDBusConnection::sessionBus();
+        (void)QDBusConnection::systemBus();
+    });
+
+    // The objects QML reaches by name, made further down: the engine asks for each the first
+    // time a window uses it, by which time it exists.
+    AppModel *appModel = nullptr;
+    ShellController *shellController = nullptr;
+    SetupServices *setupServices = nullptr;
+    CommandTable *commandTable = nullptr;
+    Updater *updates = nullptr;
+    registerSingleton<AppModel>("App", appModel);
+    registerSingleton<ShellController>("Shell", shellController);
+    registerSingleton<SetupServices>("Setup", setupServices);
+    registerSingleton<CommandTable>("Commands", commandTable);
+    registerSingleton<Updater>("Updates", updates);
+    auto engine = std::make_unique<QQmlApplicationEngine>();
+    engine->addImportPath(u"qrc:/qt/qml"_s);
+    engine->addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
+    const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
+    QmlPreload::start(*engine,
+                      {root, options.hidden ? QUrl() : QmlPreload::fileOf(ViewTable::section(AppSection::today))});
 
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Quorvane"_s, u"Quorvane"_s);
     Preferences preferences(settings);
@@ -116,6 +156,7 @@ int main(int argc, char *argv[])
     QNetworkAccessManager network;
     LibsecretStore secrets;
     const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
+    buses.wait();
     FreedesktopNotifier notifier(QDBusConnection::sessionBus(), clock, locale, zone);
     Login1WakeMonitor wake(QDBusConnection::systemBus());
     UrlOpener opener;
@@ -135,24 +176,29 @@ int main(int argc, char *argv[])
     env.savedSnapshot = saved;
     env.locale = locale;
     env.zone = zone;
-    // Meanwhile, the font database: the first text drawn would otherwise wait for it.
-    QFontDatabase::families();
     AppModel model(env);
     SetupServices setup(model, env, loginItem);
     ShellController shell;
     shell.setStartHidden(options.hidden);
     CommandTable commands(model, shell, opener);
-    FeedUpdater::Config updates;
-    updates.publicKey =
+    FeedUpdater::Config updateConfig;
+    updateConfig.publicKey =
         QByteArray::fromBase64(options.updateKey.value_or(QString::fromLatin1(build::updateKey)).toLatin1());
-    updates.install = install;
-    updates.currentVersion = QString::fromLatin1(build::version);
-    updates.currentBuild = QByteArray(build::number).toInt();
-    updates.systemVersion = QSysInfo::productVersion();
-    updates.stagingDirectory = updateStaging;
+    updateConfig.install = install;
+    updateConfig.currentVersion = QString::fromLatin1(build::version);
+    updateConfig.currentBuild = QByteArray(build::number).toInt();
+    updateConfig.systemVersion = QSysInfo::productVersion();
+    updateConfig.stagingDirectory = updateStaging;
     FeedUpdater updater(
-        updates, env.transport, [&model] { return model.baseURL(); }, settings, clock, opener);
+        updateConfig, env.transport, [&model] { return model.baseURL(); }, settings, clock, opener);
     commands.attachUpdater(&updater);
+    appModel = &model;
+    shellController = &shell;
+    setupServices = &setup;
+    commandTable = &commands;
+    updates = &updater;
+    // The windows close before the objects they show go.
+    const auto closeWindows = qScopeGuard([&engine] { engine.reset(); });
 
     QObject::connect(&notifier, &Notifier::joinRequested, &notifier, [&opener](const QUrl &url) { opener.open(url); });
     QObject::connect(&notifier, &Notifier::activateRequested, &shell, [&shell] { shell.open(AppWindow::Main); });
@@ -162,26 +208,17 @@ int main(int argc, char *argv[])
     });
     QObject::connect(&shell, &ShellController::quitRequested, &app, &QApplication::quit);
 
-    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "App", &model);
-    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Shell", &shell);
-    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Setup", &setup);
-    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Commands", &commands);
-    qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Updates", static_cast<Updater *>(&updater));
-    QQmlApplicationEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
-    engine.addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
-    const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
     if (options.selfTest) {
-        SelfTest test(engine, started);
+        SelfTest test(*engine, started);
         if (const std::optional<AppSection> section = Section::fromId(options.selfTestSection.value_or(QString())))
             test.timeOpening([&model, section] { model.setSection(*section); });
-        return test.run(root, SelfTest::qmlFiles(), ViewTable::all());
+        return test.run(root, ViewTable::all());
     }
 
-    engine.load(root);
-    if (engine.rootObjects().isEmpty())
+    engine->load(root);
+    if (engine->rootObjects().isEmpty())
         return 1;
-    TrayController tray(engine, model);
+    TrayController tray(*engine, model);
     if (install == FeedUpdater::Install::portable)
         StagedUpdate::confirmStarted(executable);
     // Ctrl+Alt+Super+S from any application opens Share Times, raised with the desktop's

@@ -75,10 +75,10 @@ QStringList SelfTest::qmlFiles(const QString &folder)
     return out;
 }
 
-int SelfTest::run(const QUrl &root, const QStringList &files, const QList<QmlType> &views, int timeoutMs)
+int SelfTest::run(const QUrl &root, const QList<QmlType> &views, const QString &folder, int timeoutMs)
 {
-    // The window first, as a user's start would go; every other file is compiled after it, so
-    // the first frame's time is the start's own.
+    // The window first, as a user's start would go; every other file is listed and compiled
+    // after it, so the first frame's time is the start's own.
     m_engine.load(root);
     if (m_engine.rootObjects().isEmpty())
         m_problems.append(u"%1 did not load"_s.arg(root.toString()));
@@ -87,6 +87,7 @@ int SelfTest::run(const QUrl &root, const QStringList &files, const QList<QmlTyp
     const std::optional<qint64> resident = ProcessStats::residentKiB();
     if (m_open && m_main)
         m_openingMs = timeOpening(m_main, timeoutMs);
+    const QStringList files = qmlFiles(folder);
     compile(files);
     compileViews(views);
 

@@ -31,10 +31,11 @@ public:
     // Every QML file below `folder` (of the resources, by default) but singletons, sorted, as URLs.
     [[nodiscard]] static QStringList qmlFiles(const QString &folder = QStringLiteral(":/qt/qml/Quorvane"));
 
-    // Loads `root`, waits for the window named "main" to draw, compiles `files` and makes each of
-    // `views`; prints one line to stdout on success, each problem to stderr. Gives the process's
-    // exit code.
-    int run(const QUrl &root, const QStringList &files, const QList<QmlType> &views, int timeoutMs = 30'000);
+    // Loads `root`, waits for the window named "main" to draw, then compiles every file of
+    // qmlFiles(folder) and makes each of `views`; prints one line to stdout on success, each
+    // problem to stderr. Gives the process's exit code.
+    int run(const QUrl &root, const QList<QmlType> &views, const QString &folder = QStringLiteral(":/qt/qml/Quorvane"),
+            int timeoutMs = 30'000);
 
     // After the first frame, the self-test calls `open` and times the main window's next frame:
     // how long a section takes to show the first time. The report gives it too.

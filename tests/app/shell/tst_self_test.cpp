@@ -73,7 +73,8 @@ private Q_SLOTS:
         started.start();
         QQmlApplicationEngine engine;
         SelfTest test(engine, started);
-        QCOMPARE(test.run(QUrl::fromLocalFile(folder.filePath(u"Root.qml"_s)), files, {QmlType{view, u"Item"_s}}, 1500),
+        QCOMPARE(test.run(QUrl::fromLocalFile(folder.filePath(u"Root.qml"_s)), {QmlType{view, u"Item"_s}},
+                          folder.filePath(u"ui"_s), 1500),
                  problem.isEmpty() ? 0 : 1);
         const QString problems = test.problems().join(u'\n');
         if (problem.isEmpty())
