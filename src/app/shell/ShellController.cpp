@@ -36,6 +36,11 @@ QQmlComponent *ShellController::commandPalette(QObject *user)
     return component(user, ViewTable::commandPalette());
 }
 
+QQmlComponent *ShellController::signInHero(QObject *user)
+{
+    return component(user, ViewTable::signInHero());
+}
+
 QQmlComponent *ShellController::component(QObject *user, const QmlType &type)
 {
     QQmlEngine *engine = qmlEngine(user);

@@ -52,6 +52,7 @@ public:
     Q_INVOKABLE QQmlComponent *windowContent(quorvane::AppWindow::Id window, QObject *user);
     Q_INVOKABLE QQmlComponent *newPollSheet(QObject *user);
     Q_INVOKABLE QQmlComponent *commandPalette(QObject *user);
+    Q_INVOKABLE QQmlComponent *signInHero(QObject *user);
 
     // The component of `type` in `engine`, made once per engine and kept with it. A type that
     // doesn't compile gives a component in its error state, with the reason in errors().

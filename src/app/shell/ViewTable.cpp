@@ -67,6 +67,11 @@ QmlType commandPalette()
     return {u"Quorvane.Palette"_s, u"CommandPalette"_s};
 }
 
+QmlType signInHero()
+{
+    return {u"Quorvane.Main"_s, u"SignInHero"_s};
+}
+
 QmlType popover()
 {
     return {u"Quorvane.Tray"_s, u"MenuBarPopover"_s};
@@ -79,7 +84,7 @@ QList<QmlType> all()
         out << section(s);
     for (const AppWindow::Id w : AppWindow::all())
         out << window(w) << content(w);
-    out << newPollSheet() << commandPalette() << popover();
+    out << newPollSheet() << commandPalette() << signInHero() << popover();
     out.removeIf([](const QmlType &type) { return type.isNull(); });
     return out;
 }

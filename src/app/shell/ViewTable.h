@@ -21,6 +21,9 @@ namespace ViewTable {
 [[nodiscard]] QmlType newPollSheet();
 // The command palette over the main window.
 [[nodiscard]] QmlType commandPalette();
+// What the main window shows in place of every screen while nobody is signed in: made only
+// then, so that a returning user's start never compiles it.
+[[nodiscard]] QmlType signInHero();
 // The tray icon's popover.
 [[nodiscard]] QmlType popover();
 // Every row above, for the self-test to make each once.

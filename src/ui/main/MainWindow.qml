@@ -74,13 +74,12 @@ ApplicationWindow {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
 
-                    // Made only while it is shown: a returning user never sees it.
+                    // Made only while it is shown: a returning user never sees it, and the
+                    // start doesn't compile it.
                     Loader {
                         anchors.fill: parent
                         active: frameModel.showsSignInHero
-                        sourceComponent: SignInHero {
-                            objectName: "signInHero"
-                        }
+                        sourceComponent: active ? Shell.signInHero(window) : null
                     }
                     SectionContent {
                         id: content

@@ -20,12 +20,14 @@ Item {
         active: root.screen !== null
     }
 
-    SectionPlaceholder {
-        objectName: "sectionPlaceholder"
+    Loader {
         anchors.fill: parent
-        visible: !screenLoader.active
-        title: root.frame.title
-        symbol: root.frame.symbol
+        active: !screenLoader.active
+        sourceComponent: SectionPlaceholder {
+            objectName: "sectionPlaceholder"
+            title: root.frame.title
+            symbol: root.frame.symbol
+        }
     }
 
     // A new section fades in quickly rather than snapping.

@@ -9,6 +9,8 @@ import Quorvane.Onboarding
 Item {
     id: root
 
+    objectName: "signInHero"
+
     ColumnLayout {
         anchors.centerIn: parent
         width: Math.min(root.width - 80, 460)

@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
@@ -24,14 +23,17 @@ ScrollView {
         width: root.availableWidth
         implicitHeight: (App.firstLoadDone ? stack.implicitHeight : skeleton.implicitHeight) + 2 * Style.space3XL
 
-        SkeletonList {
+        // What is made only for a state the screen may never be in waits for that state.
+        Loader {
             id: skeleton
-            objectName: "todaySkeleton"
-            visible: !App.firstLoadDone
+            active: !App.firstLoadDone
             x: stack.x
             y: Style.space3XL
             width: stack.width
-            rows: 4
+            sourceComponent: SkeletonList {
+                objectName: "todaySkeleton"
+                rows: 4
+            }
         }
 
         ColumnLayout {
@@ -94,22 +96,28 @@ ScrollView {
                     visible: timeline.count > 0
                     timeline: timeline
                 }
-                EmptyPanel {
-                    objectName: "emptyDay"
+                Loader {
                     Layout.fillWidth: true
                     Layout.preferredHeight: 170
-                    visible: timeline.count === 0
-                    title: qsTr("Nothing booked today")
-                    symbol: "cup.and.saucer"
-                    description: qsTr("Enjoy the focus time. Share a link to get booked.")
+                    active: timeline.count === 0
+                    visible: active
+                    sourceComponent: EmptyPanel {
+                        objectName: "emptyDay"
+                        title: qsTr("Nothing booked today")
+                        symbol: "cup.and.saucer"
+                        description: qsTr("Enjoy the focus time. Share a link to get booked.")
+                    }
                 }
             }
 
-            ConnectCalendarCard {
-                objectName: "connectCard"
+            Loader {
                 Layout.fillWidth: true
-                visible: today.showsConnectCard
-                onConnect: today.connectGoogle()
+                active: today.showsConnectCard
+                visible: active
+                sourceComponent: ConnectCalendarCard {
+                    objectName: "connectCard"
+                    onConnect: today.connectGoogle()
+                }
             }
         }
     }
