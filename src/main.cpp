@@ -83,8 +83,9 @@ int main(int argc, char *argv[])
         std::fprintf(*options.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(options.message));
         return *options.exitCode;
     }
-    // Otherwise this is the running instance, unless another became it meanwhile; the
-    // self-test is always its own. The bus name makes it so; the local socket where there is no bus.
+    // Otherwise this is the running instance, unless another became it meanwhile: the one that
+    // holds the bus name, or the local socket where there is no session bus. The self-test is
+    // always its own.
     const bool onBus = QDBusConnection::sessionBus().isConnected();
     DBusApplication desktop(QDBusConnection::sessionBus(), Activation::names());
     SingleInstance instance(SingleInstance::defaultPath());
