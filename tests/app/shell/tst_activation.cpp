@@ -4,6 +4,7 @@
 
 #include "shell/Activation.h"
 #include "shell/CommandTable.h"
+#include "shell/LaunchOptions.h"
 #include "shell/ShellController.h"
 
 #include <QCoroTask>
@@ -47,6 +48,9 @@ private Q_SLOTS:
         QCOMPARE(rig.opened, QList<QUrl>{*ann.meetURL()});
         QVERIFY(!activation.activate(u"lunch"_s));
         QVERIFY(opened.isEmpty());
+        // Every window a launch may ask for reaches the running app.
+        for (const QString &id : LaunchOptions::windowIds())
+            QVERIFY2(Activation::names().contains(id), qPrintable(id));
 
         // With no meeting ahead, joining opens nothing.
         backend.cancel(ann.id);
