@@ -9,6 +9,7 @@
 #include "UrlOpener.h"
 #include "components/IconProvider.h"
 #include "linux/AutostartLoginItem.h"
+#include "linux/DBusApplication.h"
 #include "linux/DesktopHotKey.h"
 #include "linux/FreedesktopNotifier.h"
 #include "linux/LibsecretStore.h"
@@ -16,6 +17,7 @@
 #include "model/AppModel.h"
 #include "model/Preferences.h"
 #include "onboarding/SetupServices.h"
+#include "shell/Activation.h"
 #include "shell/AppWindow.h"
 #include "shell/CommandTable.h"
 #include "shell/LaunchOptions.h"
@@ -24,6 +26,7 @@
 #include "shell/ShellController.h"
 #include "shell/SingleInstance.h"
 #include "shell/ViewTable.h"
+#include "tray/BusStatus.h"
 #include "tray/TrayController.h"
 #include "updates/FeedUpdater.h"
 #include "updates/StagedUpdate.h"
@@ -80,7 +83,7 @@ int main(int argc, char *argv[])
         // `quorvane --share` should bring the window up at once.
         const QCoreApplication launch(argc, argv);
         const LaunchOptions early = LaunchOptions::parse(QCoreApplication::arguments());
-        if (!early.exitCode && !early.selfTest && SingleInstance(SingleInstance::defaultPath()).forward(early.window))
+        if (!early.exitCode && !early.selfTest && Activation::forward(early.window))
             return 0;
     }
     QApplication app(argc, argv); // Qt Charts needs the widgets application
@@ -96,10 +99,14 @@ int main(int argc, char *argv[])
         std::fprintf(*options.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(options.message));
         return *options.exitCode;
     }
-    // Otherwise this is the running instance, unless another became it meanwhile; the
-    // self-test is always its own.
+    // Otherwise this is the running instance, unless another became it meanwhile: the one that
+    // holds the bus name, or the local socket where there is no session bus. The self-test is
+    // always its own.
+    const bool onBus = QDBusConnection::sessionBus().isConnected();
+    DBusApplication desktop(QDBusConnection::sessionBus(), Activation::names());
     SingleInstance instance(SingleInstance::defaultPath());
-    if (!options.selfTest && instance.handOver(options.window))
+    if (!options.selfTest
+        && (onBus ? !desktop.claim() && Activation::forward(options.window) : instance.handOver(options.window)))
         return 0;
     // A portable copy with a verified update waiting puts it in its place and starts that.
     const QString executable = QCoreApplication::applicationFilePath();
@@ -201,11 +208,13 @@ int main(int argc, char *argv[])
     const auto closeWindows = qScopeGuard([&engine] { engine.reset(); });
 
     QObject::connect(&notifier, &Notifier::joinRequested, &notifier, [&opener](const QUrl &url) { opener.open(url); });
-    QObject::connect(&notifier, &Notifier::activateRequested, &shell, [&shell] { shell.open(AppWindow::Main); });
-    QObject::connect(&instance, &SingleInstance::requested, &shell, [&shell](const QString &name) {
-        if (const std::optional<AppWindow::Id> window = AppWindow::fromName(name))
-            shell.open(*window);
-    });
+    Activation activation(commands, shell);
+    activation.serve(desktop);
+    BusStatus::follow(model, desktop);
+    QObject::connect(&notifier, &Notifier::activateRequested, &activation,
+                     [&activation](const QString &token) { activation.activate(u"main"_s, token); });
+    QObject::connect(&instance, &SingleInstance::requested, &activation,
+                     [&activation](const QString &name) { activation.activate(name); });
     QObject::connect(&shell, &ShellController::quitRequested, &app, &QApplication::quit);
 
     if (options.selfTest) {
@@ -225,10 +234,8 @@ int main(int argc, char *argv[])
     // permission where it sends one.
     const std::unique_ptr<HotKey> hotKey = makeDesktopHotKey(QDBusConnection::sessionBus());
     if (hotKey) {
-        QObject::connect(hotKey.get(), &HotKey::pressed, &shell, [&shell](const QString &activationToken) {
-            if (!activationToken.isEmpty())
-                qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
-            shell.open(AppWindow::Share);
+        QObject::connect(hotKey.get(), &HotKey::pressed, &activation, [&activation](const QString &activationToken) {
+            activation.activate(u"share"_s, activationToken);
         });
     }
     if (const std::optional<AppWindow::Id> window = AppWindow::fromName(options.window); window != AppWindow::Main)

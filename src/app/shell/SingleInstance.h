@@ -7,7 +7,8 @@ class QLocalServer;
 
 namespace quorvane {
 
-// One Quorvane per user and session. The first launch listens on a local socket; a later
+// One Quorvane per user and session where there is no session bus (with one, the bus name
+// decides: see Activation). The first launch listens on a local socket; a later
 // launch hands its request (a window id) to it and ends. The running instance answers each
 // request with "ok" once it has passed it on, so a launch that hears nothing goes on by itself.
 class SingleInstance : public QObject
