@@ -120,7 +120,7 @@ int main(int argc, char *argv[])
 
     // A start does several slow things that don't need each other, so they run side by side:
     // the saved data is decoded, the locale's date patterns and the font database are worked
-    // out, and the buses are reached, each on a thread of its own, while the QML engine
+    // out, and the system bus is reached, each on a thread of its own, while the QML engine
     // compiles the first window on its loader thread and the main thread makes the services.
     const QString dataDirectory = DataPaths::defaultDirectory();
     std::shared_future<std::optional<Snapshot>> saved =
@@ -131,10 +131,7 @@ int main(int argc, char *argv[])
     const std::future<void> patterns =
         std::async(std::launch::async, [locale] { (void)Formats::pattern(u"jmm"_s, locale); });
     const std::future<void> fonts = std::async(std::launch::async, [] { (void)QFontDatabase::families(); });
-    const std::future<void> buses = std::async(std::launch::async, [] {
-        (void)QDBusConnection::sessionBus();
-        (void)QDBusConnection::systemBus();
-    });
+    const std::future<void> systemBus = std::async(std::launch::async, [] { (void)QDBusConnection::systemBus(); });
 
     // The objects QML reaches by name, made further down: the engine asks for each the first
     // time a window uses it, by which time it exists.
@@ -163,7 +160,7 @@ int main(int argc, char *argv[])
     QNetworkAccessManager network;
     LibsecretStore secrets;
     const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
-    buses.wait();
+    systemBus.wait();
     FreedesktopNotifier notifier(QDBusConnection::sessionBus(), clock, locale, zone);
     Login1WakeMonitor wake(QDBusConnection::systemBus());
     UrlOpener opener;
