@@ -55,7 +55,6 @@ QString manual()
     ManPage::Page page;
     page.name = u"quorvanectl"_s;
     page.summary = u"the terminal companion of Quorvane"_s;
-    page.version = u"Quorvane "_s + QLatin1StringView(build::version);
     page.description =
         u"quorvanectl shows the next meeting and the day's bookings in a terminal or a status bar, offers open "
         "times in a message, and asks the running Quorvane to open its windows. Commands that print data "
@@ -93,8 +92,7 @@ int main(int argc, char *argv[])
                                      + u"\n\nExit status:\n"_s + exitStatus);
     parser.addHelpOption();
     parser.addVersionOption();
-    QCommandLineOption man(u"man"_s, u"Print the manual page in roff."_s);
-    man.setFlags(QCommandLineOption::HiddenFromHelp);
+    const QCommandLineOption man = ManPage::option();
     QCommandLineOption completion(u"bash-completion"_s, u"Print the bash completion script."_s);
     completion.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOptions({man, completion});

@@ -2,7 +2,6 @@
 
 #include "UpdateFeed.h"
 
-#include "BuildInfo.h"
 #include "ManPage.h"
 
 #include <QCommandLineParser>
@@ -28,11 +27,7 @@ struct Options {
     QCommandLineOption updateKey{u"print-update-key"_s,
                                  u"Print the public half of the test key that signs the sandbox's update feed "
                                  "(base64), for the app's --update-key, and exit."_s};
-    QCommandLineOption man = [] {
-        QCommandLineOption option(u"man"_s, u"Print the manual page in roff."_s);
-        option.setFlags(QCommandLineOption::HiddenFromHelp);
-        return option;
-    }();
+    QCommandLineOption man = ManPage::option();
 
     [[nodiscard]] QList<QCommandLineOption> all() const
     {
@@ -45,7 +40,6 @@ QString manual(const QList<QCommandLineOption> &options)
     ManPage::Page page;
     page.name = u"quorvane-sandbox"_s;
     page.summary = u"a local stand-in for the Quorvane service"_s;
-    page.version = u"Quorvane "_s + QLatin1StringView(build::version);
     page.description =
         u"quorvane-sandbox serves the Quorvane API, the booking pages and a device sign-in on 127.0.0.1, from a "
         "SQLite database, for demos, development and tests. Point Quorvane at it with quorvane --server "

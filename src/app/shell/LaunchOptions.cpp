@@ -35,7 +35,6 @@ QString manual(const QList<QCommandLineOption> &options)
     ManPage::Page page;
     page.name = u"quorvane"_s;
     page.summary = u"desktop client for scheduling links"_s;
-    page.version = u"Quorvane "_s + QLatin1StringView(build::version);
     page.description =
         u"Quorvane shows the bookings of a scheduling-links service: the next meeting in the tray with a "
         "countdown, today's timeline and every booking. It edits availability, event types and group polls, "
@@ -80,8 +79,7 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
     const QCommandLineOption updateKey(
         u"update-key"_s, u"Trust updates signed with this Ed25519 public key (base64), such as a test server's."_s,
         u"KEY"_s);
-    QCommandLineOption man(u"man"_s, u"Print the manual page in roff."_s);
-    man.setFlags(QCommandLineOption::HiddenFromHelp);
+    const QCommandLineOption man = ManPage::option();
     const QList<QCommandLineOption> table{help,     version,         server, share,     open,
                                           selfTest, selfTestSection, hidden, updateKey, man};
     parser.addOptions(table);

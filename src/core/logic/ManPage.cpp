@@ -1,5 +1,7 @@
 #include "ManPage.h"
 
+#include "BuildInfo.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -110,7 +112,8 @@ QString optionSynopsis(const QList<QCommandLineOption> &options)
 
 QString roff(const Page &page)
 {
-    QStringList out{u".TH %1 1 \"\" \"%2\" \"User Commands\""_s.arg(page.name.toUpper(), escaped(page.version)),
+    const QString version = page.version.isEmpty() ? u"Quorvane "_s + QLatin1StringView(build::version) : page.version;
+    QStringList out{u".TH %1 1 \"\" \"%2\" \"User Commands\""_s.arg(page.name.toUpper(), escaped(version)),
                     u".SH NAME"_s, escaped(page.name) + u" \\- "_s + escaped(page.summary), u".SH SYNOPSIS"_s};
     QStringList synopses;
     for (const Usage &usage : page.usages)
@@ -135,6 +138,13 @@ QString roff(const Page &page)
         out.append(paragraphs(section.text));
     }
     return out.join(u'\n') + u'\n';
+}
+
+QCommandLineOption option()
+{
+    QCommandLineOption man(u"man"_s, u"Print the manual page in roff."_s);
+    man.setFlags(QCommandLineOption::HiddenFromHelp);
+    return man;
 }
 
 } // namespace quorvane::ManPage

@@ -24,13 +24,16 @@ struct Section {
 struct Page {
     QString name;    // "quorvanectl"
     QString summary; // the one-line "what is" entry
-    QString version; // "Quorvane 2.0"
+    QString version; // "Quorvane 2.0" when left empty
     QString description;
     QList<Usage> usages; // one without a command: OPTIONS; several: COMMANDS
     QList<Section> sections;
 };
 
 [[nodiscard]] QString roff(const Page &page);
+
+// The option that prints the page, "--man", kept out of --help.
+[[nodiscard]] QCommandLineOption option();
 
 // "[--days N] [--json]": how the options read in a synopsis.
 [[nodiscard]] QString optionSynopsis(const QList<QCommandLineOption> &options);
