@@ -119,7 +119,11 @@ QString plain(const std::optional<Next> &next, const Instant &now)
 {
     if (!next || !next->signedIn)
         return notSignedInText(next);
-    const QString saved = next->saved ? u" (%1)"_s.arg(Saved::savedLine(next->savedAt).toLower()) : QString();
+    QString saved;
+    if (next->saved) {
+        saved = Saved::savedLine(next->savedAt);
+        saved = u" ("_s + saved.front().toLower() + saved.mid(1) + u')';
+    }
     if (next->id.isEmpty())
         return u"No upcoming meetings"_s + saved;
     return u"%1 \u00b7 %2, %3"_s.arg(shortText(*next), next->title, Saved::when(next->start, next->end, now)) + saved;
