@@ -48,26 +48,26 @@ QStringList readableLines(const QList<DayAvailability> &days)
     return lines;
 }
 
+namespace {
+
+QList<QCommandLineOption> options()
+{
+    return {QCommandLineOption(u"json"_s, u"Print the days as one line of JSON."_s),
+            QCommandLineOption(u"describe"_s, u"Print the weekly hours as a sentence that this command reads back: "
+                                              "the hours of TEXT, or without TEXT the hours saved by Quorvane."_s)};
+}
+
 int run(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Prints the weekly hours that a typed sentence would set, "
-                                     "such as \"weekdays 9-5, fri 9am-1pm\"."_s);
-    parser.addHelpOption();
-    const QCommandLineOption json(u"json"_s, u"Print the days as one line of JSON."_s);
-    parser.addOption(json);
-    const QCommandLineOption describe(u"describe"_s,
-                                      u"Print the weekly hours as a sentence that this command reads back: the "
-                                      "hours of TEXT, or without TEXT the hours saved by Quorvane."_s);
-    parser.addOption(describe);
-    parser.addPositionalArgument(u"hours"_s, u"This command."_s, u"hours"_s);
-    parser.addPositionalArgument(u"text"_s, u"The sentence; several words are joined with blanks."_s, u"[TEXT...]"_s);
-    parser.process(QStringList{u"quorvanectl"_s} + arguments);
-
+    if (const std::optional<int> done = parse(parser, command(), arguments))
+        return *done;
+    const QString json = u"json"_s;
+    const QString describe = u"describe"_s;
     const QStringList words = parser.positionalArguments().mid(1);
     if (words.isEmpty() && !parser.isSet(describe)) {
         Output::error(u"quorvanectl hours: missing TEXT (see quorvanectl hours --help)"_s);
-        return 2;
+        return usage;
     }
     QList<DayAvailability> days;
     if (!words.isEmpty()) {
@@ -76,7 +76,7 @@ int run(const QStringList &arguments)
         const std::optional<Snapshot> saved = SnapshotCache(DataPaths::cacheIn(DataPaths::defaultDirectory())).load();
         if (!saved || !saved->settings) {
             Output::error(u"quorvanectl hours: Quorvane has no saved hours yet; sign in to Quorvane first"_s);
-            return 3;
+            return notSignedIn;
         }
         days = saved->settings->availability;
     }
@@ -94,6 +94,20 @@ int run(const QStringList &arguments)
     for (const QString &line : readableLines(days))
         Output::line(line);
     return 0;
+}
+
+} // namespace
+
+const Command &command()
+{
+    static const Command c{u"hours"_s,
+                           u"Print the weekly hours a typed sentence would set."_s,
+                           u"[TEXT...]"_s,
+                           u"Prints the weekly hours that a typed sentence such as \"weekdays 9-5, fri 9am-1pm\" "
+                           "would set, one line per day, Monday first. Several words are joined with blanks."_s,
+                           &options,
+                           &run};
+    return c;
 }
 
 } // namespace quorvane::cli::HoursCommand

@@ -2,6 +2,8 @@
 
 #include "UpdateFeed.h"
 
+#include "ManPage.h"
+
 #include <QCommandLineParser>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +27,28 @@ struct Options {
     QCommandLineOption updateKey{u"print-update-key"_s,
                                  u"Print the public half of the test key that signs the sandbox's update feed "
                                  "(base64), for the app's --update-key, and exit."_s};
+    QCommandLineOption man = ManPage::option();
+
+    [[nodiscard]] QList<QCommandLineOption> all() const
+    {
+        return {port, printPort, db, demo, seed, token, autoApprove, simulate, testControls, quiet, updateKey, man};
+    }
 };
+
+QString manual(const QList<QCommandLineOption> &options)
+{
+    ManPage::Page page;
+    page.name = u"quorvane-sandbox"_s;
+    page.summary = u"a local stand-in for the Quorvane service"_s;
+    page.description =
+        u"quorvane-sandbox serves the Quorvane API, the booking pages and a device sign-in on 127.0.0.1, from a "
+        "SQLite database, for demos, development and tests. Point Quorvane at it with quorvane --server "
+        "http://127.0.0.1:8765.\n\n"
+        "It logs each request on standard error unless told to be quiet, and never prints a token."_s;
+    page.usages = {{{}, {}, {}, options}};
+    page.sections = {{u"SEE ALSO"_s, u"quorvane(1), quorvanectl(1)"_s}};
+    return ManPage::roff(page);
+}
 
 std::optional<long long> number(const QCommandLineParser &parser, const QCommandLineOption &option, long long low,
                                 long long high)
@@ -45,12 +68,13 @@ Parsed parse(const QStringList &arguments)
     parser.setApplicationDescription(u"A local stand-in for the Quorvane service, for demos, development and tests."_s);
     const QCommandLineOption help = parser.addHelpOption();
     const Options o;
-    parser.addOptions({o.port, o.printPort, o.db, o.demo, o.seed, o.token, o.autoApprove, o.simulate, o.testControls,
-                       o.quiet, o.updateKey});
+    parser.addOptions(o.all());
     if (!parser.parse(arguments))
         return {std::nullopt, parser.errorText(), true};
     if (parser.isSet(help))
         return {std::nullopt, parser.helpText(), false};
+    if (parser.isSet(o.man))
+        return {std::nullopt, manual(QList<QCommandLineOption>{help} + o.all()).trimmed(), false};
     if (parser.isSet(o.updateKey))
         return {std::nullopt, UpdateFeed::publicKeyBase64(), false};
 

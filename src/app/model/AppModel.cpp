@@ -313,10 +313,7 @@ QString AppModel::typeColorHex(const QString &slug) const
 
 QUrl AppModel::baseURL() const
 {
-    const QUrl url(serverURL(), QUrl::StrictMode);
-    if (url.isValid() && !url.scheme().isEmpty() && !url.host().isEmpty())
-        return url;
-    return QUrl(Preferences::defaultServerURL());
+    return m_env.preferences->baseURL();
 }
 
 QString AppModel::link(const EventType &type) const

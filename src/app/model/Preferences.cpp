@@ -86,6 +86,14 @@ void Preferences::setServerURL(const QString &value)
     store(Keys::serverURL, value);
 }
 
+QUrl Preferences::baseURL() const
+{
+    const QUrl url(serverURL(), QUrl::StrictMode);
+    if (url.isValid() && !url.scheme().isEmpty() && !url.host().isEmpty())
+        return url;
+    return QUrl(defaultServerURL());
+}
+
 std::optional<QString> Preferences::publicBaseURL() const
 {
     const QVariant value = m_settings.value(QLatin1StringView(Keys::publicBaseURL));

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QSettings>
 #include <QString>
+#include <QUrl>
 
 #include <optional>
 
@@ -38,6 +39,8 @@ public:
     [[nodiscard]] int reminderMinutes() const;
     void setReminderMinutes(int value);
     [[nodiscard]] QString serverURL() const;
+    // The server to talk to: serverURL when it has a scheme and a host, else the default.
+    [[nodiscard]] QUrl baseURL() const;
     void setServerURL(const QString &value);
     [[nodiscard]] bool onboarded() const;
     void setOnboarded(bool value);

@@ -1,6 +1,7 @@
 #include "shell/LaunchOptions.h"
 
 #include "BuildInfo.h"
+#include "ManPage.h"
 #include "shell/AppWindow.h"
 
 #include <QCommandLineParser>
@@ -27,6 +28,26 @@ bool isServer(const QString &text)
     return url.isValid() && (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty()
            && (url.path().isEmpty() || url.path() == "/"_L1) && !url.hasQuery() && !url.hasFragment()
            && url.userInfo().isEmpty();
+}
+
+QString manual(const QList<QCommandLineOption> &options)
+{
+    ManPage::Page page;
+    page.name = u"quorvane"_s;
+    page.summary = u"desktop client for scheduling links"_s;
+    page.description =
+        u"Quorvane shows the bookings of a scheduling-links service: the next meeting in the tray with a "
+        "countdown, today's timeline and every booking. It edits availability, event types and group polls, "
+        "shares a few open times from anywhere, and announces new bookings, cancellations and coming meetings.\n\n"
+        "A second launch hands its request to the Quorvane that is already running. Bind a key to quorvane "
+        "--share where the desktop has no global shortcut service."_s;
+    page.usages = {{{}, {}, {}, options}};
+    page.sections = {{u"FILES"_s, u"  ~/.local/share/Quorvane/  The last data seen, kept for offline use.\n"
+                                  "  ~/.config/Quorvane/Quorvane.ini  Preferences.\n\n"
+                                  "The account's token is kept in the desktop's Secret Service keyring, never in "
+                                  "a file."_s},
+                     {u"SEE ALSO"_s, u"quorvanectl(1)"_s}};
+    return ManPage::roff(page);
 }
 
 } // namespace
@@ -58,12 +79,17 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
     const QCommandLineOption updateKey(
         u"update-key"_s, u"Trust updates signed with this Ed25519 public key (base64), such as a test server's."_s,
         u"KEY"_s);
-    parser.addOptions({help, version, server, share, open, selfTest, selfTestSection, hidden, updateKey});
+    const QCommandLineOption man = ManPage::option();
+    const QList<QCommandLineOption> table{help,     version,         server, share,     open,
+                                          selfTest, selfTestSection, hidden, updateKey, man};
+    parser.addOptions(table);
 
     if (!parser.parse(arguments))
         return stop(2, parser.errorText());
     if (parser.isSet(help))
         return stop(0, parser.helpText());
+    if (parser.isSet(man))
+        return stop(0, manual(table).trimmed());
     if (parser.isSet(version))
         return stop(0, u"Quorvane %1 (%2)"_s.arg(QLatin1StringView(build::version), QLatin1StringView(build::number)));
     if (!parser.positionalArguments().isEmpty())
