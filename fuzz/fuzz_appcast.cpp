@@ -4,6 +4,7 @@
 
 #include "Appcast.h"
 #include "FuzzInput.h"
+#include "support/SigningKeys.h"
 
 #include <sodium.h>
 
@@ -11,33 +12,13 @@ using namespace quorvane;
 
 namespace {
 
-struct Keys {
-    QByteArray publicKey{crypto_sign_PUBLICKEYBYTES, '\0'};
-    QByteArray secretKey{crypto_sign_SECRETKEYBYTES, '\0'};
-    Keys()
-    {
-        if (sodium_init() < 0)
-            fuzz::fail("libsodium doesn't start");
-        crypto_sign_keypair(reinterpret_cast<unsigned char *>(publicKey.data()),
-                            reinterpret_cast<unsigned char *>(secretKey.data()));
-    }
-    [[nodiscard]] QByteArray sign(const QByteArray &bytes) const
-    {
-        QByteArray signature(crypto_sign_BYTES, '\0');
-        crypto_sign_detached(reinterpret_cast<unsigned char *>(signature.data()), nullptr,
-                             reinterpret_cast<const unsigned char *>(bytes.constData()), quint64(bytes.size()),
-                             reinterpret_cast<const unsigned char *>(secretKey.constData()));
-        return signature;
-    }
-};
-
 bool isWeb(const QUrl &url)
 {
     return (url.scheme() == QLatin1StringView("https") || url.scheme() == QLatin1StringView("http"))
            && !url.host().isEmpty();
 }
 
-void checkRelease(const Appcast::Release &release, const QByteArray &download, const Keys &keys)
+void checkRelease(const Appcast::Release &release, const QByteArray &download, const test::SigningKeys &keys)
 {
     if (release.build <= 0 || release.version.isEmpty() || !isWeb(release.download) || release.length <= 0
         || release.signature.size() != crypto_sign_BYTES || !(release.notes.isEmpty() || isWeb(release.notes)))
@@ -62,7 +43,9 @@ void checkRelease(const Appcast::Release &release, const QByteArray &download, c
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const Keys keys;
+    static const test::SigningKeys keys;
+    if (!keys.ready)
+        fuzz::fail("libsodium doesn't start");
     const QList<QByteArray> parts = fuzz::split(fuzz::bytes(data, size), 3);
     const Appcast::Feed feed = Appcast::parse(parts[0]);
     for (const Appcast::Release &release : feed.releases)
