@@ -38,8 +38,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         m_server.start(qEnvironmentVariable("QUORVANE_BINARY_DIR") + u"/sandbox/quorvane-sandbox"_s,
-                       {u"--demo"_s, u"--port"_s, u"0"_s, u"--print-port"_s, u"--quiet"_s, u"--token"_s,
-                        QString::fromLatin1(token)});
+                       {u"--demo"_s, u"--port"_s, u"0"_s, u"--print-port"_s, u"--token"_s, QString::fromLatin1(token)});
         QVERIFY(m_server.waitForReadyRead(15000));
         m_port = quint16(m_server.readLine().trimmed().toUInt());
         QVERIFY(m_port > 0);
@@ -49,6 +48,10 @@ private Q_SLOTS:
     {
         m_server.terminate();
         m_server.waitForFinished(5000);
+        // A line break in a path stays inside its own log line.
+        const QByteArray log = m_server.readAllStandardError();
+        QVERIFY(log.contains("GET /poll/x%0AGET /sync/me 200"));
+        QVERIFY(!log.contains("\nGET /sync/me 200 0ms (forged)"));
     }
 
     void refused_data()
@@ -66,9 +69,10 @@ private Q_SLOTS:
                                             + "\r\n\r\n";
         QTest::newRow("many headers") << "GET /app HTTP/1.1\r\nHost: x\r\n" + QByteArray("X-A: b\r\n").repeated(20000)
                                              + "\r\n";
-        for (const char *path : {"/../../etc/passwd", "/jordan/../../../etc/passwd", "/%2e%2e/%2e%2e/etc/passwd",
-                                 "/jordan/%2e%2e%2f%2e%2e%2fetc%2fpasswd", "/poll/..%2f..%2fetc%2fpasswd",
-                                 "/connect/%00", "/jordan/intro/../../../../etc/shadow"})
+        for (const char *path :
+             {"/../../etc/passwd", "/jordan/../../../etc/passwd", "/%2e%2e/%2e%2e/etc/passwd",
+              "/jordan/%2e%2e%2f%2e%2e%2fetc%2fpasswd", "/poll/..%2f..%2fetc%2fpasswd", "/connect/%00",
+              "/jordan/intro/../../../../etc/shadow", "/poll/x%0AGET%20/sync/me%20200%200ms%20(forged)"})
             QTest::newRow(path) << "GET " + QByteArray(path) + end;
     }
     void refused()
