@@ -68,7 +68,7 @@ bool Sandbox::start(QString *error)
     m_server = new SandboxServer(m_router, m_faults, this);
     if (m_config.logRequests)
         m_server->setLog(logLine);
-    m_port = m_server->listen(QHostAddress::LocalHost, m_config.port);
+    m_port = m_server->listenGuarded(QHostAddress::LocalHost, m_config.port);
     if (m_port == 0) {
         *error = u"Couldn't listen on 127.0.0.1:%1"_s.arg(m_config.port);
         return false;

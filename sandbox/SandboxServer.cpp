@@ -1,5 +1,7 @@
 #include "SandboxServer.h"
 
+#include "RequestGuard.h"
+
 #include <QElapsedTimer>
 #include <QHttpServerRequest>
 #include <QHttpServerResponder>
@@ -57,6 +59,28 @@ void drop(QTcpSocket *socket)
     });
 }
 
+qsizetype headerBytes(const HttpRequest &request)
+{
+    qsizetype total = 0;
+    for (const auto &[name, value] : request.headers)
+        total += name.size() + value.size() + 4;
+    return total;
+}
+
+// A path as the log shows it: control characters spelled out, so no request can forge a line.
+QString printable(const QString &path)
+{
+    QString out;
+    out.reserve(path.size());
+    for (const QChar c : path) {
+        if (c.unicode() < 0x20 || c.unicode() == 0x7f)
+            out += u"%%1"_s.arg(uint(c.unicode()), 2, 16, QChar(u'0')).toUpper();
+        else
+            out += c;
+    }
+    return out;
+}
+
 } // namespace
 
 SandboxServer::SandboxServer(const Router &router, FaultInjector &faults, QObject *parent)
@@ -64,6 +88,17 @@ SandboxServer::SandboxServer(const Router &router, FaultInjector &faults, QObjec
     , m_router(router)
     , m_faults(faults)
 {}
+
+quint16 SandboxServer::listenGuarded(const QHostAddress &address, quint16 port)
+{
+    auto *guard = new RequestGuard(this);
+    if (!guard->listen(address, port)) {
+        delete guard;
+        return 0;
+    }
+    bind(guard);
+    return guard->serverPort();
+}
 
 HttpRequest SandboxServer::toValue(const QHttpServerRequest &request)
 {
@@ -102,6 +137,15 @@ bool SandboxServer::handleRequest(const QHttpServerRequest &request, QTcpSocket 
 {
     const qint64 started = monotonicMs();
     HttpRequest value = toValue(request);
+    // The HTTP server hands over no headers at all when they were too large for it.
+    const int refusal = value.header("Host").isEmpty() ? 400 : headerBytes(value) > maxHeaderBytes ? 431 : 0;
+    if (refusal) {
+        QHttpServerResponder responder = makeResponder(request, socket);
+        write(responder, HttpReply::error(refusal, refusal == 400 ? u"A request needs a Host header"_s
+                                                                  : u"Request header fields too large"_s));
+        log(value, QString::number(refusal), started);
+        return true;
+    }
     const std::optional<Fault> fault = value.path.startsWith(u"/sandbox/"_s) ? std::nullopt : m_faults.take(value.path);
     if (fault && fault->delayMs > 0) {
         answerLater(request, socket, std::move(value), *fault);
@@ -152,7 +196,7 @@ void SandboxServer::missingHandler(const QHttpServerRequest &request, QTcpSocket
 void SandboxServer::log(const HttpRequest &request, const QString &outcome, qint64 started) const
 {
     if (m_log) {
-        m_log(u"%1 %2 %3 %4ms"_s.arg(QString::fromLatin1(request.method), request.path, outcome,
+        m_log(u"%1 %2 %3 %4ms"_s.arg(QString::fromLatin1(request.method), printable(request.path), outcome,
                                      QString::number(monotonicMs() - started)));
     }
 }

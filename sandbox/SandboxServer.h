@@ -21,8 +21,13 @@ class SandboxServer final : public QAbstractHttpServer
 public:
     using Log = std::function<void(const QString &line)>;
 
+    // Heads larger than this are refused with 431 (the HTTP server itself sets no bound).
+    static constexpr qsizetype maxHeaderBytes = 32 * 1024;
+
     SandboxServer(const Router &router, FaultInjector &faults, QObject *parent = nullptr);
     void setLog(Log log) { m_log = std::move(log); }
+    // Listens behind a RequestGuard; the port taken, or 0.
+    quint16 listenGuarded(const QHostAddress &address, quint16 port);
 
 protected:
     bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override;

@@ -78,6 +78,11 @@ std::optional<Instant> parse(const QString &text)
     // Straight to milliseconds since the epoch: the calendar-aware constructors cost more
     // than the whole rest of decoding a booking.
     const qint64 seconds = daysFromCivil(year, month, day) * 86400 + hour * 3600 + minute * 60 + second - offsetSeconds;
+    // Only what the writers can write back: a four-digit year in UTC as well.
+    static const qint64 firstSecond = daysFromCivil(1, 1, 1) * 86400;
+    static const qint64 pastLastSecond = daysFromCivil(10000, 1, 1) * 86400;
+    if (seconds < firstSecond || seconds >= pastLastSecond)
+        return std::nullopt;
     return QDateTime::fromMSecsSinceEpoch(seconds * 1000 + msec, Qt::UTC);
 }
 

@@ -1,6 +1,7 @@
 // The update feed read and its downloads checked: good, tampered, truncated, wrong-key,
 // wrong-length, downgrade and too-new-for-this-system feeds.
 #include "Appcast.h"
+#include "support/SigningKeys.h"
 
 #include <QTest>
 
@@ -11,25 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Keys {
-    Keys()
-    {
-        QVERIFY(sodium_init() >= 0);
-        publicKey.resize(crypto_sign_PUBLICKEYBYTES);
-        secretKey.resize(crypto_sign_SECRETKEYBYTES);
-        crypto_sign_keypair(reinterpret_cast<unsigned char *>(publicKey.data()),
-                            reinterpret_cast<unsigned char *>(secretKey.data()));
-    }
-    [[nodiscard]] QByteArray sign(const QByteArray &bytes) const
-    {
-        QByteArray signature(crypto_sign_BYTES, '\0');
-        crypto_sign_detached(reinterpret_cast<unsigned char *>(signature.data()), nullptr,
-                             reinterpret_cast<const unsigned char *>(bytes.constData()), quint64(bytes.size()),
-                             reinterpret_cast<const unsigned char *>(secretKey.constData()));
-        return signature;
-    }
-    QByteArray publicKey;
-    QByteArray secretKey;
+struct Keys : test::SigningKeys {
+    Keys() { QVERIFY(ready); }
 };
 
 QByteArray item(int build, const QString &version, const QByteArray &signature, qint64 length,

@@ -30,6 +30,10 @@ private Q_SLOTS:
         QTest::newRow("text after zone") << u"2026-03-10T14:00:00Zjunk"_s << QString();
         QTest::newRow("hour 24") << u"2026-03-10T24:00:00Z"_s << QString();
         QTest::newRow("non-ASCII digit") << u"2026-03-10T14:00:0\u0663Z"_s << QString();
+        // Every date read must write back as one: a year of four digits in UTC too.
+        QTest::newRow("first moment") << u"0001-01-01T00:00:00Z"_s << u"0001-01-01T00:00:00.000Z"_s;
+        QTest::newRow("before year 1 in UTC") << u"0001-01-01T00:00:00+01:00"_s << QString();
+        QTest::newRow("after year 9999 in UTC") << u"9999-12-31T23:59:59-05:00"_s << QString();
     }
     void isoParse()
     {
