@@ -7,6 +7,7 @@
 #include "SystemClipboard.h"
 #include "SystemClock.h"
 #include "UrlOpener.h"
+#include "components/Appearance.h"
 #include "components/IconProvider.h"
 #include "linux/AutostartLoginItem.h"
 #include "linux/DesktopHotKey.h"
@@ -167,6 +168,9 @@ int main(int argc, char *argv[])
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Setup", &setup);
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Commands", &commands);
     qmlRegisterSingletonInstance("Quorvane.App", 1, 0, "Updates", static_cast<Updater *>(&updater));
+    // Light or dark as the desktop prefers, from the first frame on and whenever it changes.
+    Appearance appearance;
+    appearance.follow(QDBusConnection::sessionBus(), 500);
     QQmlApplicationEngine engine;
     engine.addImportPath(u"qrc:/qt/qml"_s);
     engine.addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
