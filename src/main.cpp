@@ -7,6 +7,7 @@
 #include "SystemClipboard.h"
 #include "SystemClock.h"
 #include "UrlOpener.h"
+#include "components/Appearance.h"
 #include "components/IconProvider.h"
 #include "linux/AutostartLoginItem.h"
 #include "linux/DBusApplication.h"
@@ -132,6 +133,10 @@ int main(int argc, char *argv[])
         std::async(std::launch::async, [locale] { (void)Formats::pattern(u"jmm"_s, locale); });
     const std::future<void> fonts = std::async(std::launch::async, [] { (void)QFontDatabase::families(); });
     const std::future<void> systemBus = std::async(std::launch::async, [] { (void)QDBusConnection::systemBus(); });
+
+    // Light or dark as the desktop prefers, from the first frame on and whenever it changes.
+    Appearance appearance;
+    appearance.follow(QDBusConnection::sessionBus(), 500);
 
     // The objects QML reaches by name, made further down: the engine asks for each the first
     // time a window uses it, by which time it exists.

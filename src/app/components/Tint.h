@@ -12,11 +12,13 @@ enum class Tint { accent, red, orange, yellow, green, blue, purple, pink, second
 // SystemColors, so the tray icon, the models and the screens never disagree.
 namespace Tints {
 
-// The desktop palette's fixed colour for each name. These are the light appearance's; the
-// dark values belong beside them in this table.
+// Each name's colour in the light or the dark appearance: the dark ones a little brighter, to
+// hold their contrast on a dark window.
+[[nodiscard]] QColor color(Tint tint, bool dark);
+// In the appearance the application has now (its palette's).
 [[nodiscard]] QColor color(Tint tint);
 
-// The same colour as "#RRGGBB", for the places that carry colours as text, like event types.
+// The light colour as "#RRGGBB", for the places that carry colours as text, like event types.
 [[nodiscard]] QString hex(Tint tint);
 
 // A booking whose event type is gone is drawn in the secondary grey.

@@ -61,6 +61,6 @@ Rectangle {
         height: 8
         radius: width / 2
         color: root.tint
-        opacity: 0.18
+        opacity: Style.dark ? 0.4 : 0.18
     }
 }

@@ -6,9 +6,9 @@ import Quorvane.App
 // address of a tinted symbol. Screens take their numbers from here, so that two cards or two
 // rows that should match do match.
 QtObject {
-    // The desktop's dark colour scheme; nothing follows it yet. Every colour below is the light
-    // one: a dark value joins each as `dark ? … : …` here, and the tints' in Tints (C++).
-    readonly property bool dark: false
+    // The application's palette is dark (the desktop prefers it): every colour below follows,
+    // open windows and all.
+    readonly property bool dark: SystemColors.dark
 
     // The tints, from the one table in C++ (Tints), which the tray icon and the models use too.
     readonly property color accent: SystemColors.accent
@@ -25,15 +25,24 @@ QtObject {
     // Text and symbols on an accent fill, or on any other strong tint.
     readonly property color accentText: "white"
     // A row under the pointer, and a row being pressed.
-    readonly property color hoverFill: Qt.rgba(0, 0, 0, 0.05)
-    readonly property color pressFill: Qt.rgba(0, 0, 0, 0.09)
+    readonly property color hoverFill: dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(0, 0, 0, 0.05)
+    readonly property color pressFill: dark ? Qt.rgba(1, 1, 1, 0.11) : Qt.rgba(0, 0, 0, 0.09)
+    // The ground of a count or a chip on the window.
+    readonly property color quietFill: dark ? Qt.rgba(1, 1, 1, 0.10) : Qt.rgba(0, 0, 0, 0.07)
+    // A panel that stands a little out of the window (the account footer), and its edge.
+    readonly property color raisedFill: dark ? Qt.rgba(1, 1, 1, 0.06) : Qt.rgba(1, 1, 1, 0.55)
+    readonly property color raisedEdge: dark ? Qt.rgba(1, 1, 1, 0.08) : Qt.rgba(0, 0, 0, 0.06)
+    // What dims the window under a panel over it, and one step of that panel's shadow.
+    readonly property color scrim: dark ? Qt.rgba(0, 0, 0, 0.45) : Qt.rgba(0, 0, 0, 0.18)
+    readonly property color shadowStep: dark ? Qt.rgba(0, 0, 0, 0.12) : Qt.rgba(0, 0, 0, 0.035)
 
     // Lines, derived from the palette of whoever draws them (pass palette.window or
     // palette.windowText): a card's border, the rule between the window's columns, the edge of
-    // a frameless window, and a thin line drawn over content.
-    function hairline(window: color): color { return Qt.darker(window, 1.08) }
-    function separator(window: color): color { return Qt.darker(window, 1.15) }
-    function windowEdge(window: color): color { return Qt.darker(window, 1.25) }
+    // a frameless window, and a thin line drawn over content. On a dark window a line is a
+    // lighter shade of it.
+    function hairline(window: color): color { return dark ? Qt.tint(window, "#1cffffff") : Qt.darker(window, 1.08) }
+    function separator(window: color): color { return dark ? Qt.tint(window, "#28ffffff") : Qt.darker(window, 1.15) }
+    function windowEdge(window: color): color { return dark ? Qt.tint(window, "#3cffffff") : Qt.darker(window, 1.25) }
     function rule(text: color): color { return withAlpha(text, 0.12) }
 
     function withAlpha(base: color, alpha: real): color { return Qt.rgba(base.r, base.g, base.b, alpha) }

@@ -12,9 +12,9 @@ Rectangle {
 
     implicitHeight: row.implicitHeight + 2 * Style.spaceM
     radius: Style.radiusL
-    color: Qt.rgba(1, 1, 1, 0.55)
+    color: Style.raisedFill
     border.width: 1
-    border.color: Qt.rgba(0, 0, 0, 0.06)
+    border.color: Style.raisedEdge
 
     Accessible.role: Accessible.StaticText
     Accessible.name: root.frame.accountName + ", " + root.frame.statusText

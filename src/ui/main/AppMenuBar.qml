@@ -39,6 +39,7 @@ MenuBar {
             }
             Label {
                 objectName: "keys"
+                visible: text.length > 0
                 text: item.keys
                 textFormat: Text.PlainText
                 color: item.highlighted ? item.palette.highlightedText : item.palette.text

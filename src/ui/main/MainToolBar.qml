@@ -47,6 +47,7 @@ ToolBar {
         Label {
             objectName: "subtitle"
             Layout.rightMargin: Style.spaceL
+            visible: text.length > 0 // nothing for a screen reader to land on
             text: root.subtitle
             textFormat: Text.PlainText
             font.pixelSize: Typography.caption

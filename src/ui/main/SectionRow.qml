@@ -68,7 +68,7 @@ ItemDelegate {
             Accessible.name: qsTr("%n item(s)", "", row.badge)
             background: Rectangle {
                 radius: height / 2
-                color: row.selected ? Qt.rgba(1, 1, 1, 0.25) : Qt.rgba(0, 0, 0, 0.07)
+                color: row.selected ? Qt.rgba(1, 1, 1, 0.25) : Style.quietFill
             }
         }
     }

@@ -29,7 +29,7 @@ Item {
     Rectangle {
         objectName: "paletteBackdrop"
         anchors.fill: parent
-        color: Qt.rgba(0, 0, 0, 0.18)
+        color: Style.scrim
         Accessible.ignored: true
         MouseArea {
             anchors.fill: parent
@@ -47,7 +47,7 @@ Item {
             width: panel.width + (index + 1) * 6
             height: panel.height + (index + 1) * 6
             radius: panel.radius + (index + 1) * 3
-            color: Qt.rgba(0, 0, 0, 0.035)
+            color: Style.shadowStep
         }
     }
 

@@ -52,6 +52,7 @@ Dialog {
             objectName: "pollTitle"
             Layout.fillWidth: true
             placeholderText: qsTr("Title")
+            Accessible.name: qsTr("Title")
             text: draft.title
             focus: true
             onTextEdited: draft.title = text
@@ -64,7 +65,7 @@ Dialog {
             Label {
                 text: qsTr("Meeting type")
             }
-            ComboBox {
+            ChoiceBox {
                 id: typeChoice
                 objectName: "pollType"
                 Layout.fillWidth: true

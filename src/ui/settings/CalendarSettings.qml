@@ -85,7 +85,7 @@ SettingsForm {
                 Layout.fillWidth: true
                 text: "Add to"
             }
-            ComboBox {
+            ChoiceBox {
                 objectName: "bookingCalendar"
                 Layout.preferredWidth: 220
                 model: CalendarListModel {

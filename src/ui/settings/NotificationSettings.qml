@@ -77,7 +77,7 @@ SettingsForm {
                 Layout.fillWidth: true
                 text: "Remind me"
             }
-            ComboBox {
+            ChoiceBox {
                 objectName: "remindMe"
                 Layout.preferredWidth: 160
                 model: alerts.reminderChoices

@@ -55,6 +55,8 @@ Item {
                     icon.width: 16
                     icon.height: 16
                     display: AbstractButton.TextUnderIcon
+                    // The style tells the chosen tab by a shade too faint on a dark window.
+                    palette.button: Style.dark && checked ? Qt.lighter(tabs.palette.button, 1.5) : tabs.palette.button
                     Accessible.name: modelData.title
                 }
             }

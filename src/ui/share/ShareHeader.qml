@@ -27,7 +27,7 @@ ColumnLayout {
             font.bold: true
         }
         Item { Layout.fillWidth: true }
-        ComboBox {
+        ChoiceBox {
             objectName: "typePicker"
             Layout.preferredWidth: 200
             model: header.share.typeChoices
@@ -44,7 +44,7 @@ ColumnLayout {
             text: qsTr("Times in")
             color: Style.secondary
         }
-        ComboBox {
+        ChoiceBox {
             objectName: "zonePicker"
             Layout.preferredWidth: 240
             model: header.share.zoneChoices

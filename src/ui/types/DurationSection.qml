@@ -19,7 +19,7 @@ FormSection {
             Layout.fillWidth: true
             text: qsTr("Duration")
         }
-        ComboBox {
+        ChoiceBox {
             objectName: "durationChoice"
             model: root.editor.durationLabels
             currentIndex: root.editor.durationIndex

@@ -1,9 +1,17 @@
 // quorvane-screens: draws every scene of the scene table into PNGs, for people to look at.
 //
-//   quorvane-screens OUTPUT_FOLDER [NAME_PART ...]   only scenes whose name holds a part
+//   quorvane-screens [--dark] OUTPUT_FOLDER [NAME_PART ...]   only scenes whose name holds a part
+//   quorvane-screens --accessibility [NAME_PART ...]
 //   quorvane-screens --list
+//
+// --dark draws in the dark palette, into "<scene>-dark.png". --accessibility draws nothing and
+// instead fails each scene with a control that the keyboard reaches but that has no name or
+// role for a screen reader; it runs under with-screen-reader, where Qt's bridge to one is on.
+#include "AccessibleTree.h"
 #include "SceneTable.h"
 #include "Stage.h"
+
+#include "components/Appearance.h"
 
 #include "QuorvaneQmlModules.h"
 
@@ -11,6 +19,7 @@
 #include <QDir>
 #include <QLocale>
 #include <QQuickStyle>
+#include <QQuickWindow>
 
 #include <cstdio>
 
@@ -42,23 +51,48 @@ bool wanted(const Scene &scene, const QStringList &parts)
     return false;
 }
 
-bool render(const Scene &scene, const QDir &folder)
+bool report(const Scene &scene, const QStringList &problems, const QString &done)
+{
+    if (problems.isEmpty()) {
+        std::printf("%s\n", qPrintable(done));
+        return true;
+    }
+    std::fprintf(stderr, "%s: failed\n", qPrintable(scene.name));
+    for (const QString &problem : problems)
+        std::fprintf(stderr, "  %s\n", qPrintable(problem));
+    return false;
+}
+
+bool render(const Scene &scene, const QDir &folder, const QString &suffix)
 {
     Stage stage(scene);
     current = &stage;
     const bool shown = stage.show();
-    const QString path = folder.filePath(scene.name + u".png"_s);
+    const QString path = folder.filePath(scene.name + suffix + u".png"_s);
     const QImage image = shown ? stage.grab() : QImage();
-    const bool saved = !image.isNull() && image.save(path);
+    if (shown && (image.isNull() || !image.save(path)))
+        stage.problem(u"could not save %1"_s.arg(path));
     current = nullptr;
-    if (saved && stage.problems().isEmpty()) {
-        std::printf("%s\n", qPrintable(path));
-        return true;
+    return report(scene, stage.problems(), path);
+}
+
+// Every open window of the scene, as a screen reader would walk it.
+bool checkAccessibility(const Scene &scene)
+{
+    Stage stage(scene);
+    current = &stage;
+    if (!AccessibleTree::readerActive())
+        stage.problem(u"no screen reader bridge: run this under tests/ui/renderer/with-screen-reader"_s);
+    else if (stage.show()) {
+        for (QWindow *window : QGuiApplication::topLevelWindows()) {
+            if (window->isVisible() && qobject_cast<QQuickWindow *>(window)) {
+                for (const QString &control : AccessibleTree::unnamedControls(window))
+                    stage.problem(control);
+            }
+        }
     }
-    std::fprintf(stderr, "%s: failed\n", qPrintable(scene.name));
-    for (const QString &problem : stage.problems())
-        std::fprintf(stderr, "  %s\n", qPrintable(problem));
-    return false;
+    current = nullptr;
+    return report(scene, stage.problems(), scene.name + u": every control named"_s);
 }
 
 } // namespace
@@ -82,20 +116,28 @@ int main(int argc, char *argv[])
             std::printf("%s\n", qPrintable(scene.name));
         return 0;
     }
-    if (arguments.isEmpty()) {
-        std::fprintf(stderr, "usage: quorvane-screens OUTPUT_FOLDER [NAME_PART ...] | --list\n");
+    const bool accessibility = arguments.removeAll(u"--accessibility"_s) > 0;
+    const bool dark = arguments.removeAll(u"--dark"_s) > 0;
+    if (!accessibility && arguments.isEmpty()) {
+        std::fprintf(stderr, "usage: quorvane-screens [--dark] OUTPUT_FOLDER [NAME_PART ...] | --accessibility "
+                             "[NAME_PART ...] | --list\n");
         return 2;
     }
-    const QDir folder(arguments.takeFirst());
-    if (!folder.mkpath(u"."_s))
+    quorvane::Appearance appearance;
+    if (dark)
+        appearance.apply(quorvane::ColorScheme::dark);
+    const QDir folder(accessibility ? QString() : arguments.takeFirst());
+    if (!accessibility && !folder.mkpath(u"."_s))
         return 1;
     int failed = 0;
     int drawn = 0;
     for (const Scene &scene : scenes) {
         if (!wanted(scene, arguments))
             continue;
-        render(scene, folder) ? ++drawn : ++failed;
+        const bool ok =
+            accessibility ? checkAccessibility(scene) : render(scene, folder, dark ? u"-dark"_s : QString());
+        ok ? ++drawn : ++failed;
     }
-    std::fprintf(stderr, "%d drawn, %d failed\n", drawn, failed);
+    std::fprintf(stderr, "%d %s, %d failed\n", drawn, accessibility ? "checked" : "drawn", failed);
     return failed == 0 && drawn > 0 ? 0 : 1;
 }
