@@ -22,6 +22,7 @@
 #include "shell/SelfTest.h"
 #include "shell/ShellController.h"
 #include "shell/SingleInstance.h"
+#include "shell/StateFile.h"
 #include "shell/ViewTable.h"
 #include "tray/TrayController.h"
 #include "updates/FeedUpdater.h"
@@ -135,9 +136,13 @@ int main(int argc, char *argv[])
     env.savedSnapshot = saved;
     env.locale = locale;
     env.zone = zone;
+    if (options.timings)
+        env.timings = *options.timings;
     // Meanwhile, the font database: the first text drawn would otherwise wait for it.
     QFontDatabase::families();
     AppModel model(env);
+    const std::unique_ptr<StateFile> stateFile =
+        options.stateFile ? std::make_unique<StateFile>(model, *options.stateFile) : nullptr;
     SetupServices setup(model, env, loginItem);
     ShellController shell;
     shell.setStartHidden(options.hidden);
