@@ -86,6 +86,8 @@ class TestE2EFaults : public QObject
     int m_faultsSurvived = 0;
     qint64 m_peakGrowth = 0; // the most the app's peak memory grew in one fault
 
+    // The app's state as last read.
+    [[nodiscard]] const QJsonObject &seen() const { return m_state; }
     [[nodiscard]] QString base() const { return u"http://127.0.0.1:%1"_s.arg(m_port); }
     [[nodiscard]] QString statePath() const { return m_dir.filePath(u"state.json"_s); }
 
@@ -192,7 +194,7 @@ class TestE2EFaults : public QObject
     [[nodiscard]] QString announcedTwice() const
     {
         QStringList twice;
-        const QJsonObject counts = std::as_const(m_state)[u"announced"_s].toObject();
+        const QJsonObject counts = seen()[u"announced"_s].toObject();
         for (auto it = counts.constBegin(); it != counts.constEnd(); ++it) {
             if (it.value().toInt() != 1)
                 twice.append(it.key());
@@ -255,7 +257,9 @@ private Q_SLOTS:
         // during the test, so that only the retry mends a failure.
         launch(u"tick=1000,stale=3600000,timeout=1500"_s);
         QVERIFY(waitState(live, "came up live"));
-        QVERIFY(std::as_const(m_state)[u"bookings"_s].toInt() > 100);
+        const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        QCOMPARE(QFile::permissions(statePath()) & others, QFile::Permissions());
+        QVERIFY(seen()[u"bookings"_s].toInt() > 100);
         QVERIFY(QTest::qWaitFor([] { return QFile::exists(dataFile(u"changes-v2.json"_s)); }, patience));
     }
 
@@ -315,20 +319,20 @@ private Q_SLOTS:
         QVERIFY(waitState(
             [&](const QJsonObject &s) { return s[u"banner"_s][u"kind"_s] == kind && !s[u"loading"_s].toBool(); },
             "showed the banner"));
-        const QJsonObject banner = std::as_const(m_state)[u"banner"_s].toObject();
+        const QJsonObject banner = seen()[u"banner"_s].toObject();
         if (text == "offline"_L1) {
             QCOMPARE(banner[u"text"_s].toString(), offlineText(before[u"savedAt"_s].toString()));
-            QVERIFY(std::as_const(m_state)[u"offline"_s].toBool());
+            QVERIFY(seen()[u"offline"_s].toBool());
         } else {
             QVERIFY2(banner[u"text"_s].toString().startsWith(text), qPrintable(banner[u"text"_s].toString()));
         }
         QCOMPARE(banner[u"retry"_s].toBool(), retry);
         // Signed out by a 401 alone, the token left for the next try as it was.
-        QCOMPARE(std::as_const(m_state)[u"signedIn"_s].toBool(), plant.first()[u"status"_s].toInt() != 401);
+        QCOMPARE(seen()[u"signedIn"_s].toBool(), plant.first()[u"status"_s].toInt() != 401);
         // The saved data stay on screen, in place of any sign-in, and on disk as they were.
-        QCOMPARE(std::as_const(m_state)[u"bookings"_s].toInt(), before[u"bookings"_s].toInt());
-        QCOMPARE(std::as_const(m_state)[u"savedAt"_s].toString(), before[u"savedAt"_s].toString());
-        QVERIFY(!std::as_const(m_state)[u"signInShown"_s].toBool());
+        QCOMPARE(seen()[u"bookings"_s].toInt(), before[u"bookings"_s].toInt());
+        QCOMPARE(seen()[u"savedAt"_s].toString(), before[u"savedAt"_s].toString());
+        QVERIFY(!seen()[u"signInShown"_s].toBool());
         QCOMPARE(readAll(dataFile(u"cache-v2.json"_s)), savedCache);
         QCOMPARE(m_app.state(), QProcess::Running);
         const qint64 grown = peakMemory(m_app.processId()) - peakBefore;
@@ -346,7 +350,7 @@ private Q_SLOTS:
         const Result<Snapshot> saved = JSON::decode<Snapshot>(readAll(dataFile(u"cache-v2.json"_s)));
         QVERIFY(saved);
         QCOMPARE(saved.value().savedAt.toSecsSinceEpoch(),
-                 ISO::parse(std::as_const(m_state)[u"savedAt"_s].toString())->toSecsSinceEpoch());
+                 ISO::parse(seen()[u"savedAt"_s].toString())->toSecsSinceEpoch());
         QCOMPARE(announcedTwice(), QString());
         ++m_faultsSurvived;
     }
@@ -367,9 +371,8 @@ private Q_SLOTS:
         const QByteArray savedCache = readAll(dataFile(u"cache-v2.json"_s));
         m_server.reset();
         QVERIFY(waitState([](const QJsonObject &s) { return s[u"offline"_s].toBool(); }, "went offline"));
-        QCOMPARE(std::as_const(m_state)[u"banner"_s][u"text"_s].toString(),
-                 offlineText(std::as_const(m_state)[u"savedAt"_s].toString()));
-        QCOMPARE(std::as_const(m_state)[u"bookings"_s].toInt(), before[u"bookings"_s].toInt());
+        QCOMPARE(seen()[u"banner"_s][u"text"_s].toString(), offlineText(seen()[u"savedAt"_s].toString()));
+        QCOMPARE(seen()[u"bookings"_s].toInt(), before[u"bookings"_s].toInt());
         QCOMPARE(readAll(dataFile(u"cache-v2.json"_s)), savedCache);
 
         QVERIFY(startServer());
