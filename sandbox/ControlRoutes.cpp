@@ -60,6 +60,7 @@ Fault faultFrom(const QJsonObject &body)
     f.delayMs = wholeNumber(body, u"delayMs"_s, 0, 0, 120000);
     f.drop = body.value(u"drop"_s).toBool(false);
     f.count = wholeNumber(body, u"count"_s, 1, 1, 1000000);
+    f.bodyBytes = wholeNumber(body, u"bodyBytes"_s, 0, 0, 200'000'000);
     return f;
 }
 

@@ -15,10 +15,15 @@ struct Fault {
     int delayMs = 0;                // wait first; alone it slows a normal answer down
     bool drop = false;              // close the connection without answering
     int count = 1;                  // how many requests it strikes
+    int bodyBytes = 0;              // without a body: answer with this many bytes of JSON instead
+
+    // The body the fault answers with, if it gives one.
+    [[nodiscard]] std::optional<QByteArray> answer() const;
 };
 
 // Faults planted by tests and demos, keyed by path ("sync/bookings"; a leading slash and
-// a query are ignored).
+// a query are ignored). A key ending in "*" strikes every path it begins ("sync/*"); a path
+// of its own wins over it.
 class FaultInjector
 {
 public:

@@ -113,10 +113,11 @@ HttpRequest SandboxServer::toValue(const QHttpServerRequest &request)
 
 HttpReply SandboxServer::replyFor(const HttpRequest &request, const std::optional<Fault> &fault) const
 {
-    if (fault && (fault->status || fault->body)) {
+    const std::optional<QByteArray> answer = fault ? fault->answer() : std::nullopt;
+    if (fault && (fault->status || answer)) {
         return HttpReply{fault->status.value_or(200),
                          "application/json",
-                         fault->body.value_or(QByteArray(R"({"error":"Injected failure"})")),
+                         answer.value_or(QByteArray(R"({"error":"Injected failure"})")),
                          {}};
     }
     return m_router.dispatch(request);

@@ -26,6 +26,7 @@
 #include "shell/SelfTest.h"
 #include "shell/ShellController.h"
 #include "shell/SingleInstance.h"
+#include "shell/StateFile.h"
 #include "shell/ViewTable.h"
 #include "tray/BusStatus.h"
 #include "tray/TrayController.h"
@@ -185,7 +186,11 @@ int main(int argc, char *argv[])
     env.savedSnapshot = saved;
     env.locale = locale;
     env.zone = zone;
+    if (options.timings)
+        env.timings = *options.timings;
     AppModel model(env);
+    const std::unique_ptr<StateFile> stateFile =
+        options.stateFile ? std::make_unique<StateFile>(model, *options.stateFile) : nullptr;
     SetupServices setup(model, env, loginItem);
     ShellController shell;
     shell.setStartHidden(options.hidden);

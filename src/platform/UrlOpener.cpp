@@ -1,5 +1,7 @@
 #include "UrlOpener.h"
 
+#include "Links.h"
+
 #include <QDesktopServices>
 
 namespace quorvane {
@@ -10,14 +12,10 @@ UrlOpener::UrlOpener(Launcher launcher)
 
 bool UrlOpener::allows(const QUrl &url)
 {
-    if (!url.isValid() || url.isRelative())
-        return false;
-    const QString scheme = url.scheme().toLower();
-    if (scheme == QLatin1String("http") || scheme == QLatin1String("https"))
-        return !url.host().isEmpty();
-    if (scheme == QLatin1String("mailto"))
-        return !url.path().isEmpty();
-    return false;
+    if (Links::isWebPage(url))
+        return true;
+    return url.isValid() && url.scheme().compare(QLatin1String("mailto"), Qt::CaseInsensitive) == 0
+           && !url.path().isEmpty();
 }
 
 bool UrlOpener::open(const QUrl &url) const

@@ -176,7 +176,13 @@ private Q_SLOTS:
                  R"({"error":"Gone fishing"})"_ba);
         QCOMPARE(outcome(h->get(u"/sync/polls"_s)), u"404 Gone fishing"_s);
         QCOMPARE(h->get(u"/sync/polls"_s).status, 200);
-        plant({{u"path"_s, u"sync/me"_s}, {u"status"_s, 500}, {u"count"_s, 9}});
+        // "sync/*" strikes every sync path but one that has a fault of its own.
+        plant({{u"path"_s, u"sync/*"_s}, {u"status"_s, 503}, {u"count"_s, 9}});
+        plant({{u"path"_s, u"sync/me"_s}, {u"bodyBytes"_s, 100'000}});
+        const SandboxHarness::Response long_ = h->get(u"/sync/me"_s);
+        QCOMPARE((std::pair{long_.status, long_.body.size()}), (std::pair{200, qsizetype(100'000)}));
+        QCOMPARE(h->get(u"/sync/me"_s).status, 503);
+        QCOMPARE(h->get(u"/sync/polls"_s).status, 503);
         QCOMPARE(h->send("DELETE", u"/sandbox/faults"_s, {}, {}, {}).status, 200);
         QCOMPARE(h->get(u"/sync/me"_s).status, 200);
     }

@@ -25,8 +25,10 @@ class WakeMonitor;
 struct AppEnvironment {
     struct Timings {
         std::chrono::milliseconds tick{60'000};
+        std::chrono::milliseconds stale{300'000}; // a tick refreshes in full after this long without success
         std::chrono::milliseconds toast{2'200};
         std::chrono::milliseconds saveDebounce{900};
+        std::chrono::milliseconds requestTimeout{20'000};
     };
 
     Clock *clock = nullptr;

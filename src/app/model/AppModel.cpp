@@ -341,7 +341,9 @@ Insights AppModel::insights() const
 QuorvaneAPI AppModel::api() const
 {
     const Keychain keychain = m_keychain;
-    return QuorvaneAPI{baseURL(), [keychain] { return keychain.token(); }, m_env.transport, {}};
+    QuorvaneAPI api{baseURL(), [keychain] { return keychain.token(); }, m_env.transport};
+    api.timeout = m_env.timings.requestTimeout;
+    return api;
 }
 
 // --- failures ---

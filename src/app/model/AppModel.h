@@ -181,6 +181,8 @@ Q_SIGNALS:
     void ticked();
     // `next` may be another booking: after a new snapshot or a tick.
     void nextChanged();
+    // A booking's change was just announced to the user: booked, or cancelled.
+    void announced(const QString &bookingId, bool cancelled);
 
 private:
     static void run(QCoro::Task<> &&task);

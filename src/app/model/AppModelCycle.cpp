@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 namespace {
-constexpr qint64 staleAfterSeconds = 300;
 constexpr qint64 firstPollLookbackSeconds = 7 * 24 * 3600;
 constexpr int historyDays = 180;
 
@@ -46,7 +45,7 @@ QCoro::Task<> AppModel::tick()
     if (!self)
         co_return;
     const Instant last = m_lastRefresh.value_or(distantPast());
-    if (last < now().addSecs(-staleAfterSeconds))
+    if (last < now().addMSecs(-m_env.timings.stale.count()))
         co_await refresh(true);
     if (self)
         Q_EMIT ticked();
@@ -149,8 +148,10 @@ QCoro::Task<> AppModel::pollChanges(bool prime)
     if (events.isEmpty())
         co_return;
     if (notifyBookings()) {
-        for (const ChangeEvent &event : events)
+        for (const ChangeEvent &event : events) {
             m_env.notifier->announce(event, typeTitle(event.booking.type));
+            Q_EMIT announced(event.booking.id, event.kind == ChangeEvent::Kind::cancelled);
+        }
     }
     co_await refresh(true);
 }

@@ -5,6 +5,7 @@
 #include "shell/AppWindow.h"
 
 #include <QCommandLineParser>
+#include <QHash>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -50,6 +51,24 @@ QString manual(const QList<QCommandLineOption> &options)
     return ManPage::roff(page);
 }
 
+// "tick=1000,timeout=1500": each named timing in milliseconds, from 1 ms to an hour.
+std::optional<AppEnvironment::Timings> timingsFrom(const QString &text)
+{
+    AppEnvironment::Timings timings;
+    const QHash<QString, std::chrono::milliseconds *> named{{u"tick"_s, &timings.tick},
+                                                            {u"stale"_s, &timings.stale},
+                                                            {u"timeout"_s, &timings.requestTimeout}};
+    for (const QString &item : text.split(u',')) {
+        bool ok = false;
+        const qint64 ms = item.section(u'=', 1).toLongLong(&ok);
+        std::chrono::milliseconds *target = named.value(item.section(u'=', 0, 0));
+        if (!target || !ok || ms < 1 || ms > 3'600'000)
+            return std::nullopt;
+        *target = std::chrono::milliseconds(ms);
+    }
+    return timings;
+}
+
 } // namespace
 
 const QStringList &LaunchOptions::windowIds()
@@ -80,8 +99,13 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
         u"update-key"_s, u"Trust updates signed with this Ed25519 public key (base64), such as a test server's."_s,
         u"KEY"_s);
     const QCommandLineOption man = ManPage::option();
-    const QList<QCommandLineOption> table{help,     version,         server, share,     open,
-                                          selfTest, selfTestSection, hidden, updateKey, man};
+    QCommandLineOption stateFile(u"state-file"_s, u"Keep the app's observable state in this file (for tests)."_s,
+                                 u"PATH"_s);
+    QCommandLineOption timings(u"test-timings"_s, u"Shorter cycle timings (for tests)."_s, u"tick=MS,…"_s);
+    stateFile.setFlags(QCommandLineOption::HiddenFromHelp);
+    timings.setFlags(QCommandLineOption::HiddenFromHelp);
+    const QList<QCommandLineOption> table{help,   version,   server, share,     open,   selfTest, selfTestSection,
+                                          hidden, updateKey, man,    stateFile, timings};
     parser.addOptions(table);
 
     if (!parser.parse(arguments))
@@ -109,6 +133,13 @@ LaunchOptions LaunchOptions::parse(const QStringList &arguments)
             return stop(2, u"--update-key needs an Ed25519 public key: 32 bytes in base64"_s);
         out.updateKey = parser.value(updateKey);
     }
+    if (parser.isSet(timings)) {
+        out.timings = timingsFrom(parser.value(timings));
+        if (!out.timings)
+            return stop(2, u"--test-timings takes tick=MS, stale=MS and timeout=MS, joined by commas"_s);
+    }
+    if (parser.isSet(stateFile))
+        out.stateFile = parser.value(stateFile);
     out.selfTest = parser.isSet(selfTest) || parser.isSet(selfTestSection);
     if (parser.isSet(selfTestSection))
         out.selfTestSection = parser.value(selfTestSection);

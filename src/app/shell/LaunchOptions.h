@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/AppEnvironment.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +18,10 @@ struct LaunchOptions {
     bool hidden = false;                    // start in the tray with no window open
     std::optional<QString> updateKey;       // base64: trust updates signed with this key instead
     QString window = QStringLiteral("main");
+    // For tests, not in --help: the file where the app keeps its observable state, and the
+    // cycle's timings ("tick=MS,stale=MS,timeout=MS"; what is not named keeps its default).
+    std::optional<QString> stateFile;
+    std::optional<AppEnvironment::Timings> timings;
 
     // Set when the launch ends here: help or version (exit 0) or a mistake (exit 2).
     std::optional<int> exitCode;

@@ -13,6 +13,8 @@ struct HTTPRequest {
     QNetworkRequest request;
     QByteArray method = QByteArrayLiteral("GET");
     std::optional<QByteArray> body;
+    // The longest answer body taken; a longer one is refused before it is read whole.
+    std::optional<qint64> maxBodyBytes;
 };
 
 } // namespace quorvane

@@ -12,7 +12,8 @@ namespace quorvane {
 //
 // send() gives back every HTTP answer, whatever its status. It throws TransportError
 // when there is no HTTP answer at all (no network, refused, timed out, not HTTP), and
-// Cancelled once `cancellation` is cancelled, before or during the exchange.
+// Cancelled once `cancellation` is cancelled, before or during the exchange. An answer whose
+// body would pass the request's maxBodyBytes throws APIError::decoding, unread.
 class HTTPTransport
 {
 public:

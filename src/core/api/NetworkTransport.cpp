@@ -1,5 +1,6 @@
 #include "NetworkTransport.h"
 
+#include "APIError.h"
 #include "Cancelled.h"
 #include "TransportError.h"
 
@@ -43,6 +44,26 @@ HTTPResponse responseOf(QNetworkReply &reply)
     return HTTPResponse{status.toInt(), reply.readAll()};
 }
 
+// Aborts the reply as soon as its announced or received length passes `limit`; true once it did.
+std::shared_ptr<bool> capLength(QNetworkReply *reply, qint64 limit)
+{
+    auto exceeded = std::make_shared<bool>(false);
+    const auto check = [reply, limit, exceeded](qint64 length) {
+        if (length > limit && !*exceeded) {
+            *exceeded = true;
+            QMetaObject::invokeMethod(reply, &QNetworkReply::abort, Qt::QueuedConnection);
+        }
+    };
+    QObject::connect(reply, &QNetworkReply::metaDataChanged, reply, [reply, check] {
+        const QVariant announced = reply->header(QNetworkRequest::ContentLengthHeader);
+        if (announced.isValid())
+            check(announced.toLongLong());
+    });
+    QObject::connect(reply, &QNetworkReply::downloadProgress, reply,
+                     [check](qint64 received, qint64) { check(received); });
+    return exceeded;
+}
+
 } // namespace
 
 NetworkTransport::NetworkTransport(QNetworkAccessManager &manager)
@@ -60,8 +81,12 @@ QCoro::Task<HTTPResponse> NetworkTransport::send(HTTPRequest request, Cancellati
         if (target)
             QMetaObject::invokeMethod(target, &QNetworkReply::abort, Qt::QueuedConnection);
     });
+    const std::shared_ptr<bool> tooLong =
+        request.maxBodyBytes ? capLength(reply.get(), *request.maxBodyBytes) : std::make_shared<bool>(false);
     co_await reply.get();
     cancellation.throwIfCancelled();
+    if (*tooLong)
+        throw APIError::decoding(u"the answer is over %1 MB"_s.arg(*request.maxBodyBytes / (1024 * 1024)));
     co_return responseOf(*reply);
 }
 

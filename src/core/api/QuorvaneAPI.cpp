@@ -80,13 +80,13 @@ QUrl urlFor(const QUrl &base, const QString &path, const QuorvaneAPI::Query &que
 // Every request the client sends is built here, so that all carry the same name, time-out and
 // redirect rule. Without a bearer (the sign-in steps) there is no Authorization header at all.
 HTTPRequest prepare(const QUrl &url, const QByteArray &method, const std::optional<QByteArray> &body,
-                    const std::optional<QString> &bearer)
+                    const std::optional<QString> &bearer, std::chrono::milliseconds timeout)
 {
     QNetworkRequest request(url);
     // No local cache: the transport's manager has none, so nothing is read from or written to
     // one. (AlwaysNetwork would add Cache-Control and Pragma to the request; and the
     // save-control attribute races with redirects inside Qt 6.4's reply.)
-    request.setTransferTimeout(20'000);
+    request.setTransferTimeout(int(timeout.count()));
     // Qt would carry the Authorization header along to wherever a redirect points.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
     if (bearer)
@@ -94,7 +94,7 @@ HTTPRequest prepare(const QUrl &url, const QByteArray &method, const std::option
     request.setHeader(QNetworkRequest::UserAgentHeader, u"Quorvane-Linux/%1"_s.arg(QLatin1StringView(build::version)));
     if (body)
         request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
-    return HTTPRequest{request, method, body};
+    return HTTPRequest{request, method, body, QuorvaneAPI::maxAnswerBytes};
 }
 
 // The `error` text of a failure's body; empty unless the body is an object holding a text there.
@@ -160,7 +160,7 @@ QCoro::Task<QByteArray> perform(QuorvaneAPI api, QString path, QByteArray method
     const std::optional<QString> token = api.token ? api.token() : std::nullopt;
     if (!token || token->isEmpty())
         throw APIError::notSignedIn();
-    HTTPRequest prepared = prepare(urlFor(api.base, path, query), method, body, token);
+    HTTPRequest prepared = prepare(urlFor(api.base, path, query), method, body, token, api.timeout);
     co_return co_await exchange(api, std::move(prepared), attempts);
 }
 
@@ -235,7 +235,7 @@ QCoro::Task<HTTPResponse> unsignedPost(QuorvaneAPI api, QString path, QJsonObjec
 {
     Q_ASSERT(api.transport);
     HTTPRequest prepared = prepare(urlFor(api.base, path, {}), QByteArrayLiteral("POST"),
-                                   QJsonDocument(body).toJson(QJsonDocument::Compact), std::nullopt);
+                                   QJsonDocument(body).toJson(QJsonDocument::Compact), std::nullopt, api.timeout);
     // A sign-in step waits longer than the other operations: the server may be slow to mint codes.
     prepared.request.setTransferTimeout(60'000);
     co_return co_await api.transport->send(prepared, api.cancellation);
@@ -280,7 +280,9 @@ QCoro::Task<QByteArray> QuorvaneAPI::request(QString path, QByteArray method, Qu
 QCoro::Task<QByteArray> QuorvaneAPI::fetchPublic(QUrl url) const
 {
     const QUrl resolved = url.isRelative() ? urlFor(base, url.path(), {}) : url;
-    return exchange(*this, prepare(resolved, QByteArrayLiteral("GET"), std::nullopt, std::nullopt), 2);
+    HTTPRequest prepared = prepare(resolved, QByteArrayLiteral("GET"), std::nullopt, std::nullopt, timeout);
+    prepared.maxBodyBytes.reset(); // a release's download may be large; its signature decides
+    return exchange(*this, std::move(prepared), 2);
 }
 
 QCoro::Task<QByteArray> QuorvaneAPI::post(QString path, QJsonObject body, QByteArray method) const

@@ -41,8 +41,13 @@ struct QuorvaneAPI {
     TokenProvider token; // asked once per request
     std::shared_ptr<HTTPTransport> transport;
     Cancellation cancellation{};
+    // How long a request may go without a byte moving before it counts as offline.
+    std::chrono::milliseconds timeout = defaultTimeout;
 
     static constexpr std::chrono::milliseconds retryPause{600}; // times the try number
+    static constexpr std::chrono::milliseconds defaultTimeout{20'000};
+    // No answer of the service comes near this; a longer one is refused, not read into memory.
+    static constexpr qint64 maxAnswerBytes = 32 * 1024 * 1024;
 
     // The one routine below every operation: adds the token and the client's name, maps
     // statuses to APIError and retries what is safe to retry. Gives the body of a 2xx.
@@ -53,7 +58,7 @@ struct QuorvaneAPI {
                                                QByteArray method = QByteArrayLiteral("POST")) const;
 
     // A public file of the service, such as the update feed or a release's download: a GET
-    // without the token, tried twice. A relative `url` lies below the base.
+    // without the token, tried twice, of any length. A relative `url` lies below the base.
     [[nodiscard]] QCoro::Task<QByteArray> fetchPublic(QUrl url) const;
 
     [[nodiscard]] QCoro::Task<Account> me() const;

@@ -1,5 +1,7 @@
 #include "Booking.h"
 
+#include "Links.h"
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
@@ -8,8 +10,9 @@ std::optional<QUrl> Booking::meetURL() const
 {
     if (!meet || meet->isEmpty())
         return std::nullopt;
+    // A meeting is joined in the browser: any other kind of link offers nothing to join.
     const QUrl url(*meet, QUrl::StrictMode);
-    if (!url.isValid())
+    if (!Links::isWebPage(url))
         return std::nullopt;
     return url;
 }

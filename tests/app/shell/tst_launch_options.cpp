@@ -32,6 +32,9 @@ private Q_SLOTS:
              u"main http://127.0.0.1:9 self-test"_s);
         runs("hidden in the tray", {u"--hidden"_s}, u"main hidden"_s);
         runs("self-test always shows its window", {u"--self-test"_s, u"--hidden"_s}, u"main self-test"_s);
+        runs("test rig: state file and some timings",
+             {u"--state-file=/s.json"_s, u"--test-timings=tick=900,timeout=5"_s},
+             u"main /s.json tick=900 stale=300000 timeout=5"_s);
         stops("help", {u"--help"_s}, 0, u"--server <URL>"_s);
         stops("version", {u"--version"_s}, 0, u"Quorvane "_s);
         stops("unknown option", {u"--frobnicate"_s}, 2, u"frobnicate"_s);
@@ -42,6 +45,8 @@ private Q_SLOTS:
         stops("server with credentials", {u"--server=https://me:pw@example.com"_s}, 2, u"--server needs"_s);
         stops("unknown window", {u"--open"_s, u"popover"_s}, 2, u"--open takes one of: main, share"_s);
         stops("two windows", {u"--share"_s, u"--open=about"_s}, 2, u"choose one"_s);
+        for (const char *bad : {"tick=0", "tock=5", "tick", "tick=5,", "stale=3600001", "timeout=1s"})
+            stops(bad, {u"--test-timings"_s, QString::fromLatin1(bad)}, 2, u"--test-timings takes"_s);
     }
     void parse()
     {
@@ -54,6 +59,12 @@ private Q_SLOTS:
             QStringList got{options.window, options.server.value_or(QString())};
             got.append(options.selfTest ? u"self-test"_s : QString());
             got.append(options.hidden ? u"hidden"_s : QString());
+            got.append(options.stateFile.value_or(QString()));
+            if (const auto &t = options.timings) {
+                got.append(u"tick=%1 stale=%2 timeout=%3"_s.arg(t->tick.count())
+                               .arg(t->stale.count())
+                               .arg(t->requestTimeout.count()));
+            }
             got.removeAll(QString());
             QCOMPARE(got.join(u' '), outcome);
         } else {

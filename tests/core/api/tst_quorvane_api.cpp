@@ -11,6 +11,7 @@
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
 
@@ -254,10 +255,56 @@ private Q_SLOTS:
         h.server.enqueue({toSameOrigin, answer(200, "here"), answer(200, "here")});
         QCOMPARE(h.request("GET", 1), u"ok here"_s);
         QCOMPARE(h.server.requests().last().url.path(), u"/moved"_s);
-        Harness other;
-        other.server.enqueue({toElsewhere, toElsewhere});
-        QCOMPARE(other.request("GET", 1), u"offline"_s);
-        QVERIFY(elsewhere.requests().isEmpty());
+        // Every kind of redirect, for a read and for a write that would carry its body along.
+        for (const int status : {301, 302, 303, 307, 308}) {
+            for (const char *method : {"GET", "POST"}) {
+                Harness other;
+                toElsewhere.status = status;
+                other.server.enqueue({toElsewhere, toElsewhere});
+                QCOMPARE(other.request(method, 1), u"offline"_s);
+                QVERIFY2(elsewhere.requests().isEmpty(),
+                         qPrintable(u"%1 %2"_s.arg(status).arg(QLatin1StringView(method))));
+            }
+        }
+    }
+
+    // An answer longer than the request allows is refused as it arrives, whether its length
+    // was announced or not, and never read whole into memory.
+    void longAnswersAreRefused_data()
+    {
+        QTest::addColumn<bool>("announced");
+        QTest::addColumn<qsizetype>("length");
+        QTest::addColumn<QString>("expected");
+        const qsizetype limit = 1024 * 1024;
+        QTest::newRow("announced, within") << true << limit << u"200 1048576"_s;
+        QTest::newRow("announced, over") << true << limit + 1 << u"decoding(the answer is over 1 MB)"_s;
+        QTest::newRow("unannounced, within") << false << limit << u"200 1048576"_s;
+        QTest::newRow("unannounced, over") << false << 8 * limit << u"decoding(the answer is over 1 MB)"_s;
+    }
+    void longAnswersAreRefused()
+    {
+        QFETCH(bool, announced);
+        QFETCH(qsizetype, length);
+        QFETCH(QString, expected);
+        Harness h;
+        QTcpServer raw; // answers without a length, and closes when done
+        QVERIFY(raw.listen(QHostAddress::LocalHost, 0));
+        connect(&raw, &QTcpServer::newConnection, this, [&raw, length] {
+            QTcpSocket *socket = raw.nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [socket, length] {
+                socket->readAll();
+                socket->write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n" + QByteArray(length, ' '));
+                socket->disconnectFromHost();
+            });
+        });
+        h.server.enqueue({Reply{200, QByteArray(length, ' ')}});
+        const QUrl url = announced ? h.server.base() : QUrl(u"http://127.0.0.1:%1/"_s.arg(raw.serverPort()));
+        const HTTPRequest request{QNetworkRequest(url), "GET", std::nullopt, 1024 * 1024};
+        const auto exchange = [](std::shared_ptr<HTTPTransport> transport, HTTPRequest r) -> QCoro::Task<QString> {
+            const HTTPResponse response = co_await transport->send(r, {});
+            co_return u"%1 %2"_s.arg(response.status).arg(response.body.size());
+        };
+        QCOMPARE(test::run(exchange(h.transport, request)), expected);
     }
 
     // Cancelling ends the call as a cancellation, not a failure, at any stage, and soon.
