@@ -52,8 +52,9 @@ QString withoutComment(const QString &line)
     return at < 0 ? line : line.left(at);
 }
 
-// Every line of the program's sources with a text for people outside the translation calls.
-QStringList untranslated()
+// Every line of the program's sources with a text for people outside the translation calls;
+// `read` counts the files looked at.
+QStringList untranslated(int &read)
 {
     const QString root = qEnvironmentVariable("QUORVANE_SOURCE_DIR");
     QStringList out;
@@ -67,6 +68,7 @@ QStringList untranslated()
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
             continue;
+        ++read;
         const bool qml = path.endsWith(u".qml"_s);
         int number = 0;
         while (!file.atEnd()) {
@@ -200,7 +202,9 @@ private Q_SLOTS:
 
     void everyVisibleTextIsTranslatable()
     {
-        const QStringList found = untranslated();
+        int read = 0;
+        const QStringList found = untranslated(read);
+        QVERIFY2(read > 100, "the sources weren't found: QUORVANE_SOURCE_DIR");
         QVERIFY2(found.isEmpty(),
                  qPrintable(u"texts for people outside qsTr()/tr(); wrap them (see CONTRIBUTING.md):\n"_s
                             + found.join(u'\n')));
