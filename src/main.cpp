@@ -6,6 +6,7 @@
 #include "SnapshotCache.h"
 #include "SystemClipboard.h"
 #include "SystemClock.h"
+#include "Translations.h"
 #include "UrlOpener.h"
 #include "components/Appearance.h"
 #include "components/IconProvider.h"
@@ -95,6 +96,7 @@ int main(int argc, char *argv[])
     QApplication::setWindowIcon(QIcon::fromTheme(u"com.peldrachen.quorvane"_s)); // installed by packaging/
     QApplication::setQuitOnLastWindowClosed(false);                              // the tray keeps the app alive
     QQuickStyle::setStyle(u"Fusion"_s);
+    Translations::install(Translations::requested()); // before the first text is made
 
     const LaunchOptions options = LaunchOptions::parse(QApplication::arguments());
     if (options.exitCode) {

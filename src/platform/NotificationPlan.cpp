@@ -2,11 +2,15 @@
 
 #include "Formats.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace quorvane::NotificationPlan {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(NotificationPlan)
+};
 
 const QString separator = QStringLiteral(" \u00B7 ");
 
@@ -21,8 +25,9 @@ NotificationRequest announcement(const ChangeEvent &event, const QString &typeTi
 
     NotificationRequest request;
     request.identifier = QStringLiteral("chg-%1-%2").arg(b.id, booked ? QStringLiteral("b") : QStringLiteral("c"));
-    request.title = (booked ? QStringLiteral("New booking: ") : QStringLiteral("Cancelled: ")) + b.name;
-    request.body = typeTitle + separator + when + (booked ? QString() : QStringLiteral(" was cancelled"));
+    request.title = (booked ? Text::tr("New booking: %1") : Text::tr("Cancelled: %1")).arg(b.name);
+    const QString what = typeTitle + separator + when;
+    request.body = booked ? what : Text::tr("%1 was cancelled").arg(what);
     request.category = NotificationCategory::booking;
     request.bookingID = b.id;
     request.meet = b.meet.value_or(QString());
@@ -45,9 +50,8 @@ QList<NotificationRequest> reminders(const QList<Booking> &bookings, const Insta
 
         NotificationRequest request;
         request.identifier = reminderPrefix + b.id;
-        request.title =
-            QStringLiteral("%1 with %2 in %3 min")
-                .arg(titles.value(b.type, QStringLiteral("Meeting")), b.name, QString::number(minutesBefore));
+        request.title = Text::tr("%1 with %2 in %3 min")
+                            .arg(titles.value(b.type, Text::tr("Meeting")), b.name, QString::number(minutesBefore));
         request.body = Formats::format(b.start, QStringLiteral("jmm"), locale, zone);
         if (b.meet)
             request.body += separator + QStringLiteral("Google Meet");

@@ -2,11 +2,16 @@
 
 #include "UrlOpener.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::About {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(About)
+};
 
 // A configured target that the app would refuse to open is as good as none.
 void addIfOpenable(QList<Link> &links, const QString &title, const QUrl &url)
@@ -36,8 +41,8 @@ QString versionLine(const QString &version, const QString &build)
 {
     const QString shown = version.isEmpty() ? u"2.0"_s : version;
     if (build.isEmpty())
-        return u"Version %1"_s.arg(shown);
-    return u"Version %1 (%2)"_s.arg(shown, build);
+        return Text::tr("Version %1").arg(shown);
+    return Text::tr("Version %1 (%2)").arg(shown, build);
 }
 
 QString siteName(const QUrl &site)
@@ -51,9 +56,9 @@ QString siteName(const QUrl &site)
 QList<Link> productLinks(const AboutConfig &config)
 {
     QList<Link> links;
-    addIfOpenable(links, u"Website"_s, web(config.site));
-    addIfOpenable(links, u"Privacy"_s, web(config.privacy));
-    addIfOpenable(links, u"Terms"_s, web(config.terms));
+    addIfOpenable(links, Text::tr("Website"), web(config.site));
+    addIfOpenable(links, Text::tr("Privacy"), web(config.privacy));
+    addIfOpenable(links, Text::tr("Terms"), web(config.terms));
     return links;
 }
 
@@ -64,13 +69,13 @@ QList<Link> authorLinks(const AboutConfig &config)
     addIfOpenable(links, siteName(own), own);
     addIfOpenable(links, u"LinkedIn"_s, web(config.makerProfile));
     addIfOpenable(links, u"Quorvane"_s, web(config.site));
-    addIfOpenable(links, u"Contact"_s, mail(config.makerMail));
+    addIfOpenable(links, Text::tr("Contact"), mail(config.makerMail));
     return links;
 }
 
 QString madeBy(const QString &makerName)
 {
-    return makerName.isEmpty() ? QString() : u"Made by %1"_s.arg(makerName);
+    return makerName.isEmpty() ? QString() : Text::tr("Made by %1").arg(makerName);
 }
 
 } // namespace quorvane::About

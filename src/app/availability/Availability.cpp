@@ -2,6 +2,7 @@
 
 #include "Formats.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -9,9 +10,15 @@ using namespace Qt::StringLiterals;
 
 namespace quorvane::Availability {
 
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Availability)
+};
+} // namespace
+
 QString modeTitle(Mode mode)
 {
-    return mode == Mode::focus ? u"Focus blocks"_s : u"Working hours"_s;
+    return mode == Mode::focus ? Text::tr("Focus blocks") : Text::tr("Working hours");
 }
 
 double startDistance(Target target)
@@ -104,37 +111,35 @@ QList<int> columnOrder()
 
 QString hoursAccessibleLabel(int weekday, const TimeRange &range, const QString &locale)
 {
-    return u"%1 available %2 to %3"_s.arg(dayName(weekday, locale), AvailabilityMath::label(range.start),
-                                          AvailabilityMath::label(range.end));
+    return Text::tr("%1 available %2 to %3")
+        .arg(dayName(weekday, locale), AvailabilityMath::label(range.start), AvailabilityMath::label(range.end));
 }
 
 QString focusLabel(const FocusBlock &block)
 {
-    return block.label.isEmpty() ? u"Focus"_s : block.label;
+    return block.label.isEmpty() ? Text::tr("Focus") : block.label;
 }
 
 QString focusAccessibleLabel(const FocusBlock &block, const QString &locale)
 {
-    return u"%1 focus block %2 %3 to %4"_s.arg(dayName(block.weekday, locale), focusLabel(block),
-                                               AvailabilityMath::label(block.range.start),
-                                               AvailabilityMath::label(block.range.end));
+    return Text::tr("%1 focus block %2 %3 to %4")
+        .arg(dayName(block.weekday, locale), focusLabel(block), AvailabilityMath::label(block.range.start),
+             AvailabilityMath::label(block.range.end));
 }
 
 QString header(const HostSettings &settings)
 {
     const qsizetype count = settings.focusBlocks.size();
-    return u"%1 h/week bookable \u00B7 %2 focus block%3"_s
-        .arg(AvailabilityMath::totalMinutes(settings.availability) / 60)
-        .arg(count)
-        .arg(count == 1 ? QString() : u"s"_s);
+    return Text::tr("%1 h/week bookable · %n focus block(s)", nullptr, int(count))
+        .arg(AvailabilityMath::totalMinutes(settings.availability) / 60);
 }
 
 QString hint(Mode mode)
 {
     return mode == Mode::focus
-               ? u"Focus blocks are never offered to guests, even inside your working hours."_s
-               : u"Drag on empty space to add hours. Drag a block to move it, drag its edges to resize, and "
-                 "right-click to delete."_s;
+               ? Text::tr("Focus blocks are never offered to guests, even inside your working hours.")
+               : Text::tr("Drag on empty space to add hours. Drag a block to move it, drag its edges to resize, and "
+                          "right-click to delete.");
 }
 
 QString previewLine(const QList<DayAvailability> &days, const QString &locale)
@@ -148,7 +153,7 @@ QString previewLine(const QList<DayAvailability> &days, const QString &locale)
             ranges << span(r);
         parts << dayName(day.weekday, locale) + u' ' + ranges.join(u", "_s);
     }
-    return u"Will set "_s + parts.join(u" \u00B7 "_s);
+    return Text::tr("Will set %1").arg(parts.join(u" \u00B7 "_s));
 }
 
 void addHours(HostSettings &s, int weekday, QList<TimeRange> ranges, const TimeRange &added)
@@ -175,7 +180,7 @@ void removeHours(HostSettings &s, int weekday, QList<TimeRange> ranges, int inde
 
 void addFocus(HostSettings &s, int weekday, const TimeRange &range, const QString &id)
 {
-    s.focusBlocks.append({id, weekday, range, u"Focus"_s});
+    s.focusBlocks.append({id, weekday, range, Text::tr("Focus")});
 }
 
 void moveFocus(HostSettings &s, const QString &id, const TimeRange &range)
@@ -217,10 +222,10 @@ TimeRange nudged(const TimeRange &range, int minutes)
 QString fmtNotice(int minutes)
 {
     if (minutes < 60)
-        return u"%1 min"_s.arg(minutes);
+        return Text::tr("%1 min").arg(minutes);
     if (minutes % 60 == 0)
         return u"%1 h"_s.arg(minutes / 60);
-    return u"%1 h %2 min"_s.arg(minutes / 60).arg(minutes % 60);
+    return Text::tr("%1 h %2 min").arg(minutes / 60).arg(minutes % 60);
 }
 
 int stepped(int value, int direction, int step, int low, int high)

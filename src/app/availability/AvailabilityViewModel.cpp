@@ -3,9 +3,17 @@
 #include "NLAvailability.h"
 #include "WeekSentence.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(AvailabilityViewModel)
+};
+} // namespace
 
 using Availability::Mode;
 
@@ -74,7 +82,7 @@ bool AvailabilityViewModel::apply()
     m_nl.clear();
     m_nlPreview.clear();
     Q_EMIT nlChanged();
-    m_app->toast(u"Availability updated"_s);
+    m_app->toast(Text::tr("Availability updated"));
     return true;
 }
 

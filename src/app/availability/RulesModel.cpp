@@ -2,11 +2,16 @@
 
 #include "availability/Availability.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RulesModel)
+};
 
 int one(int)
 {
@@ -20,22 +25,22 @@ int five(int)
 
 QString notice(int v)
 {
-    return u"Minimum notice: "_s + Availability::fmtNotice(v);
+    return Text::tr("Minimum notice: %1").arg(Availability::fmtNotice(v));
 }
 
 QString perDay(int v)
 {
-    return u"Max meetings per day: %1"_s.arg(v);
+    return Text::tr("Max meetings per day: %1").arg(v);
 }
 
 QString ahead(int v)
 {
-    return u"Bookable up to %1 days ahead"_s.arg(v);
+    return Text::tr("Bookable up to %1 days ahead").arg(v);
 }
 
 QString alert(int v)
 {
-    return u"Calendar alert: %1 min before"_s.arg(v);
+    return Text::tr("Calendar alert: %1 min before").arg(v);
 }
 
 } // namespace
@@ -43,10 +48,11 @@ QString alert(int v)
 const QList<RulesModel::Stepper> &RulesModel::steppers()
 {
     static const QList<Stepper> all{
-        {u"Minimum notice"_s, &HostSettings::minNoticeMinutes, 0, 10080, Availability::noticeStep, notice},
-        {u"Max meetings per day"_s, &HostSettings::maxMeetingsPerDay, 1, 20, one, perDay},
-        {u"Bookable days ahead"_s, &HostSettings::horizonDays, 1, 60, one, ahead},
-        {u"Calendar alert"_s, &HostSettings::alertMinutesBefore, 0, 120, five, alert},
+        {QT_TRANSLATE_NOOP("RulesModel", "Minimum notice"), &HostSettings::minNoticeMinutes, 0, 10080,
+         Availability::noticeStep, notice},
+        {QT_TRANSLATE_NOOP("RulesModel", "Max meetings per day"), &HostSettings::maxMeetingsPerDay, 1, 20, one, perDay},
+        {QT_TRANSLATE_NOOP("RulesModel", "Bookable days ahead"), &HostSettings::horizonDays, 1, 60, one, ahead},
+        {QT_TRANSLATE_NOOP("RulesModel", "Calendar alert"), &HostSettings::alertMinutesBefore, 0, 120, five, alert},
     };
     return all;
 }
@@ -70,7 +76,7 @@ QVariant RulesModel::data(const QModelIndex &index, int role) const
     case LabelRole:
         return s.label(v);
     case NameRole:
-        return s.name;
+        return Text::tr(s.name);
     case ValueRole:
         return v;
     case CanDownRole:

@@ -27,7 +27,7 @@ public:
     Q_ENUM(Role)
 
     struct Stepper {
-        QString name;
+        const char *name; // untranslated; the model translates it when shown
         int HostSettings::*field;
         int low;
         int high;

@@ -5,9 +5,17 @@
 #include "components/HexColor.h"
 #include "components/StatusLabel.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(BookingDetailModel)
+};
+} // namespace
 
 BookingDetailModel::BookingDetailModel(QObject *parent)
     : AppViewModel({&AppModel::snapshotChanged, &AppModel::ticked, &AppModel::selectedBookingChanged}, parent)
@@ -115,15 +123,15 @@ bool BookingDetailModel::showsNoShow() const
 
 QString BookingDetailModel::cancelTitle() const
 {
-    return m_booking ? u"Cancel %1 with %2?"_s.arg(typeTitle(), m_booking->name) : QString();
+    return m_booking ? Text::tr("Cancel %1 with %2?").arg(typeTitle(), m_booking->name) : QString();
 }
 
 QString BookingDetailModel::cancelMessage() const
 {
     if (!m_booking)
         return {};
-    return u"The event is removed from your calendar and %1 gets a cancellation email from Google Calendar."_s.arg(
-        m_booking->name);
+    return Text::tr("The event is removed from your calendar and %1 gets a cancellation email from Google Calendar.")
+        .arg(m_booking->name);
 }
 
 void BookingDetailModel::join()

@@ -4,9 +4,17 @@
 #include "components/HexColor.h"
 #include "components/Tint.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(BookingListModel)
+};
+} // namespace
 
 BookingListModel::BookingListModel(QObject *parent)
     : AppListModel({&AppModel::snapshotChanged, &AppModel::ticked}, parent)
@@ -60,7 +68,7 @@ QStringList BookingListModel::filterTitles() const
 QString BookingListModel::typeMenuTitle() const
 {
     if (!m_typeFilter)
-        return u"All types"_s;
+        return Text::tr("All types");
     return app() ? app()->typeTitle(*m_typeFilter) : *m_typeFilter;
 }
 
@@ -154,7 +162,7 @@ QVariant BookingListModel::data(const QModelIndex &index, int role) const
             parts << label->text;
         parts << detail();
         if (actions().join)
-            parts << u"Has Google Meet link"_s;
+            parts << Text::tr("Has Google Meet link");
         return parts.join(u", "_s);
     }
     case EmailLabelRole:
@@ -166,7 +174,7 @@ QVariant BookingListModel::data(const QModelIndex &index, int role) const
     case NoShowTitleRole:
         if (!actions().noShow)
             return QString();
-        return b.noShow.value_or(false) ? u"Clear No-show"_s : u"Mark as No-show"_s;
+        return b.noShow.value_or(false) ? Text::tr("Clear No-show") : Text::tr("Mark as No-show");
     default:
         return {};
     }

@@ -3,6 +3,7 @@
 #include "Formats.h"
 #include "TextSearch.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -13,6 +14,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane::Bookings {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Bookings)
+};
 
 bool shows(const Booking &b, Filter filter, const Instant &now)
 {
@@ -53,15 +57,15 @@ QString title(Filter filter)
 {
     switch (filter) {
     case Filter::upcoming:
-        return u"Upcoming"_s;
+        return Text::tr("Upcoming");
     case Filter::past:
-        return u"Past"_s;
+        return Text::tr("Past");
     case Filter::cancelled:
-        return u"Cancelled"_s;
+        return Text::tr("Cancelled");
     case Filter::all:
         break;
     }
-    return u"All"_s;
+    return Text::tr("All");
 }
 
 QList<Booking> filtered(const QList<Booking> &all, Filter filter, const std::optional<QString> &typeFilter,
@@ -125,7 +129,7 @@ QString firstName(const QString &name)
 
 QString emailLabel(const QString &name)
 {
-    return u"Email %1"_s.arg(firstName(name));
+    return Text::tr("Email %1").arg(firstName(name));
 }
 
 Actions actions(const Booking &booking, const Instant &now)
@@ -146,9 +150,10 @@ bool joinsFromDetail(const Booking &booking, const Instant &now)
 EmptyState emptyState(Filter filter, const QString &query)
 {
     if (query.isEmpty())
-        return {u"No %1 bookings"_s.arg(title(filter).toLower()), u"calendar"_s,
-                u"Bookings made through your links appear here."_s};
-    return {u"No results for \u201C%1\u201D"_s.arg(query), u"magnifyingglass"_s, u"Try a name, email or event type."_s};
+        return {Text::tr("No %1 bookings").arg(title(filter).toLower()), u"calendar"_s,
+                Text::tr("Bookings made through your links appear here.")};
+    return {Text::tr("No results for \u201C%1\u201D").arg(query), u"magnifyingglass"_s,
+            Text::tr("Try a name, email or event type.")};
 }
 
 } // namespace quorvane::Bookings

@@ -2,9 +2,17 @@
 
 #include "components/HexColor.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(TypeLinksModel)
+};
+} // namespace
 
 TypeLinksModel::TypeLinksModel(QObject *parent)
     : AppListModel({&AppModel::snapshotChanged, &AppModel::preferencesChanged}, parent)
@@ -44,19 +52,19 @@ QVariant TypeLinksModel::data(const QModelIndex &index, int role) const
     case TitleRole:
         return type.title;
     case MinutesRole:
-        return u"%1m"_s.arg(type.minutes);
+        return Text::tr("%1m").arg(type.minutes);
     case ChoiceRole:
-        return u"%1 (%2 min)"_s.arg(type.title).arg(type.minutes);
+        return Text::tr("%1 (%2 min)").arg(type.title).arg(type.minutes);
     case ColorRole:
         return HexColor::parse(type.colorHex);
     case LinkRole:
         return app()->link(type);
     case ToolTipRole:
-        return u"Copy "_s + app()->link(type);
+        return Text::tr("Copy %1").arg(app()->link(type));
     case AccessibleNameRole:
-        return u"Copy link for "_s + type.title;
+        return Text::tr("Copy link for %1").arg(type.title);
     case ShortAccessibleNameRole:
-        return u"Copy %1 link"_s.arg(type.title);
+        return Text::tr("Copy %1 link").arg(type.title);
     default:
         return {};
     }

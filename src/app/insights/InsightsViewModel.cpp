@@ -3,12 +3,19 @@
 #include "components/HexColor.h"
 #include "insights/InsightsFigures.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(InsightsViewModel)
+};
+} // namespace
 
 InsightsViewModel::InsightsViewModel(QObject *parent)
     : AppViewModel({&AppModel::snapshotChanged, &AppModel::ticked}, parent)
@@ -70,7 +77,7 @@ void InsightsViewModel::fillWeeks()
             m_app ? InsightsFigures::weekLabel(week.start, m_app->locale(), m_app->zone()) : QString();
         // Every second week carries a mark, counted back from the current one.
         rows.append({label, week.count, double(week.count) / most, (last - i) % 2 == 0,
-                     u"Week of %1: %2"_s.arg(label).arg(week.count)});
+                     Text::tr("Week of %1: %2").arg(label).arg(week.count)});
     }
     m_weeks.setRows(std::move(rows));
 }

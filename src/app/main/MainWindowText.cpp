@@ -3,19 +3,27 @@
 #include "Formats.h"
 #include "Graphemes.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::MainWindowText {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MainWindowText)
+};
+} // namespace
 
 QString subtitle(bool offline, bool saving, const std::optional<Instant> &lastRefresh, const QString &locale,
                  const QString &zone)
 {
     if (offline)
-        return u"Offline"_s;
+        return Text::tr("Offline");
     if (saving)
-        return u"Saving…"_s;
+        return Text::tr("Saving…");
     if (lastRefresh)
-        return u"Updated "_s + Formats::format(*lastRefresh, u"jmm"_s, locale, zone);
+        return Text::tr("Updated %1").arg(Formats::format(*lastRefresh, u"jmm"_s, locale, zone));
     return QString();
 }
 
@@ -30,16 +38,16 @@ QString initials(const std::optional<QString> &name)
 
 QString accountName(const std::optional<QString> &name)
 {
-    return name.value_or(u"Not signed in"_s);
+    return name.value_or(Text::tr("Not signed in"));
 }
 
 FooterStatus footerStatus(bool offline, bool googleConnected)
 {
     if (offline)
-        return {u"Offline"_s, Tint::secondary};
+        return {Text::tr("Offline"), Tint::secondary};
     if (googleConnected)
-        return {u"Live on Google Calendar"_s, Tint::green};
-    return {u"Calendar not connected"_s, Tint::orange};
+        return {Text::tr("Live on Google Calendar"), Tint::green};
+    return {Text::tr("Calendar not connected"), Tint::orange};
 }
 
 } // namespace quorvane::MainWindowText

@@ -1,10 +1,17 @@
 #include "main/SectionListModel.h"
 
+#include <QCoreApplication>
 #include <QKeySequence>
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(SectionListModel)
+};
+} // namespace
 
 SectionListModel::SectionListModel(QObject *parent)
     : AppListModel({&AppModel::snapshotChanged, &AppModel::ticked}, parent)
@@ -51,7 +58,7 @@ QVariant SectionListModel::data(const QModelIndex &index, int role) const
         return Section::shortcut(section);
     case HintRole: {
         const QKeySequence keys(u"Ctrl+"_s + Section::shortcut(section));
-        return u"Shortcut "_s + keys.toString(QKeySequence::NativeText);
+        return Text::tr("Shortcut %1").arg(keys.toString(QKeySequence::NativeText));
     }
     case BadgeRole:
         return app() ? badge(section, *app()) : 0;

@@ -10,6 +10,7 @@
 #include "components/Tint.h"
 #include "model/Preferences.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -23,6 +24,10 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(AppModel)
+};
+
 const QString trackerFileName = u"changes-v2.json"_s;
 
 bool byStart(const Booking &a, const Booking &b)
@@ -302,7 +307,7 @@ std::optional<EventType> AppModel::type(const QString &slug) const
 QString AppModel::typeTitle(const QString &slug) const
 {
     const std::optional<EventType> t = type(slug);
-    return t ? t->title : u"Meeting"_s;
+    return t ? t->title : Text::tr("Meeting");
 }
 
 QString AppModel::typeColorHex(const QString &slug) const
@@ -350,10 +355,10 @@ QuorvaneAPI AppModel::api() const
 
 QString AppModel::offlineMessage() const
 {
-    QString since;
-    if (m_snapshot.savedAt > distantPast())
-        since = u" from "_s + Formats::format(m_snapshot.savedAt, u"jmm"_s, m_env.locale, m_env.zone);
-    return u"You're offline. Showing saved data%1."_s.arg(since);
+    if (m_snapshot.savedAt <= distantPast())
+        return Text::tr("You're offline. Showing saved data.");
+    return Text::tr("You're offline. Showing saved data from %1.")
+        .arg(Formats::format(m_snapshot.savedAt, u"jmm"_s, m_env.locale, m_env.zone));
 }
 
 void AppModel::handle(const std::exception_ptr &error, bool silent)

@@ -6,12 +6,19 @@
 #include "Formats.h"
 #include "UrlOpener.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(AppModel)
+};
+} // namespace
 
 void AppModel::perform(const QString &successText, Operation operation)
 {
@@ -51,27 +58,27 @@ void AppModel::toast(const QString &text)
 void AppModel::cancel(const Booking &booking)
 {
     const QString id = booking.id;
-    perform(u"Booking cancelled. %1 was notified."_s.arg(booking.name),
+    perform(Text::tr("Booking cancelled. %1 was notified.").arg(booking.name),
             [id](QuorvaneAPI api) { return api.cancel(id); });
 }
 
 void AppModel::setNoShow(const Booking &booking, bool value)
 {
     const QString id = booking.id;
-    perform(value ? u"Marked as no-show"_s : u"No-show cleared"_s,
+    perform(value ? Text::tr("Marked as no-show") : Text::tr("No-show cleared"),
             [id, value](QuorvaneAPI api) { return api.setNoShow(id, value); });
 }
 
 void AppModel::deletePoll(const Poll &poll)
 {
     const QString id = poll.id;
-    perform(u"Poll deleted"_s, [id](QuorvaneAPI api) { return api.deletePoll(id); });
+    perform(Text::tr("Poll deleted"), [id](QuorvaneAPI api) { return api.deletePoll(id); });
 }
 
 void AppModel::createPoll(const QString &title, const QString &type)
 {
     QPointer<AppModel> self(this);
-    perform(u"Poll created. Link copied."_s, [self, title, type](QuorvaneAPI api) -> QCoro::Task<> {
+    perform(Text::tr("Poll created. Link copied."), [self, title, type](QuorvaneAPI api) -> QCoro::Task<> {
         const std::optional<QString> url = co_await api.createPoll(title, type);
         if (url && self)
             self->copy(*url);
@@ -104,7 +111,7 @@ QCoro::Task<> AppModel::connectGoogleTask()
 void AppModel::copyLink(const EventType &type)
 {
     copy(link(type));
-    toast(u"Copied link for %1"_s.arg(type.title));
+    toast(Text::tr("Copied link for %1").arg(type.title));
 }
 
 void AppModel::join(const Booking &booking)
@@ -145,14 +152,15 @@ QString AppModel::rescheduleText(const Booking &booking) const
     const QString first = names.isEmpty() ? QString() : names.first();
     const QString word = typeTitle(booking.type).toLower();
     const QString date = Formats::format(booking.start, u"EEEEMMMdjmm"_s, m_env.locale, m_env.zone);
-    return u"Hi %1, I need to move our %2 on %3. Could you pick a new time here? %4\n"
-           u"I'll cancel the original once you've rebooked. Thanks!"_s.arg(first, word, date, url);
+    return Text::tr("Hi %1, I need to move our %2 on %3. Could you pick a new time here? %4\n"
+                    "I'll cancel the original once you've rebooked. Thanks!")
+        .arg(first, word, date, url);
 }
 
 void AppModel::rescheduleMessage(const Booking &booking)
 {
     copy(rescheduleText(booking));
-    toast(u"Reschedule message copied"_s);
+    toast(Text::tr("Reschedule message copied"));
 }
 
 void AppModel::copy(const QString &text)

@@ -1,26 +1,32 @@
 #include "model/AppSection.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::Section {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Section)
+};
+
 struct Row {
     AppSection section;
     QString id;
-    QString title;
+    const char *title; // translated when asked for: the table outlives a change of language
     QString symbol;
 };
 
 const QList<Row> &table()
 {
     static const QList<Row> rows{
-        {AppSection::today, u"today"_s, u"Today"_s, u"sun.max"_s},
-        {AppSection::bookings, u"bookings"_s, u"Bookings"_s, u"calendar"_s},
-        {AppSection::types, u"types"_s, u"Event Types"_s, u"square.stack.3d.up"_s},
-        {AppSection::availability, u"availability"_s, u"Availability"_s, u"clock"_s},
-        {AppSection::polls, u"polls"_s, u"Polls"_s, u"chart.bar.doc.horizontal"_s},
-        {AppSection::insights, u"insights"_s, u"Insights"_s, u"chart.xyaxis.line"_s},
+        {AppSection::today, u"today"_s, QT_TRANSLATE_NOOP("Section", "Today"), u"sun.max"_s},
+        {AppSection::bookings, u"bookings"_s, QT_TRANSLATE_NOOP("Section", "Bookings"), u"calendar"_s},
+        {AppSection::types, u"types"_s, QT_TRANSLATE_NOOP("Section", "Event Types"), u"square.stack.3d.up"_s},
+        {AppSection::availability, u"availability"_s, QT_TRANSLATE_NOOP("Section", "Availability"), u"clock"_s},
+        {AppSection::polls, u"polls"_s, QT_TRANSLATE_NOOP("Section", "Polls"), u"chart.bar.doc.horizontal"_s},
+        {AppSection::insights, u"insights"_s, QT_TRANSLATE_NOOP("Section", "Insights"), u"chart.xyaxis.line"_s},
     };
     return rows;
 }
@@ -45,7 +51,7 @@ QString id(AppSection section)
 }
 QString title(AppSection section)
 {
-    return row(section).title;
+    return Text::tr(row(section).title);
 }
 QString symbol(AppSection section)
 {

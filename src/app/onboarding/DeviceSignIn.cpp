@@ -8,6 +8,7 @@
 #include "UrlOpener.h"
 #include "linux/MachineInfo.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPointer>
@@ -19,6 +20,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(DeviceSignIn)
+};
 
 QString describe(const std::exception_ptr &error)
 {
@@ -28,12 +32,12 @@ QString describe(const std::exception_ptr &error)
         return failure.errorDescription();
     } catch (const TransportError &failure) {
         if (failure.reason().isEmpty())
-            return u"Couldn't reach the server."_s;
-        return u"Couldn't reach the server (%1)."_s.arg(failure.reason());
+            return Text::tr("Couldn't reach the server.");
+        return Text::tr("Couldn't reach the server (%1).").arg(failure.reason());
     } catch (const BadServerResponse &) {
-        return u"The server's answer couldn't be read."_s;
+        return Text::tr("The server's answer couldn't be read.");
     } catch (...) {
-        return u"Sign-in failed."_s;
+        return Text::tr("Sign-in failed.");
     }
 }
 
@@ -111,7 +115,7 @@ QCoro::Task<void> DeviceSignIn::flow(QuorvaneAPI api)
             co_return;
         }
     }
-    setPhase(failed, {}, {}, u"Timed out waiting for approval."_s);
+    setPhase(failed, {}, {}, Text::tr("Timed out waiting for approval."));
 }
 
 void DeviceSignIn::conclude(const HTTPResponse &answer)
@@ -124,15 +128,15 @@ void DeviceSignIn::conclude(const HTTPResponse &answer)
         return;
     }
     if (body.value("error"_L1).toString() == "expired_token"_L1)
-        setPhase(failed, {}, {}, u"That code expired. Try again."_s);
+        setPhase(failed, {}, {}, Text::tr("That code expired. Try again."));
     else
-        setPhase(failed, {}, {}, u"Sign-in failed (%1)."_s.arg(answer.status));
+        setPhase(failed, {}, {}, Text::tr("Sign-in failed (%1).").arg(answer.status));
 }
 
 void DeviceSignIn::store(const QString &token)
 {
     if (!Keychain(*m_secrets).write(token, Keychain::apiAccount)) {
-        setPhase(failed, {}, {}, u"Couldn't save to the system keyring."_s);
+        setPhase(failed, {}, {}, Text::tr("Couldn't save to the system keyring."));
         return;
     }
     // Any of the three may end this object's life.

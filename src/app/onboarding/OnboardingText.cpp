@@ -3,13 +3,21 @@
 #include "shell/CommandTable.h"
 #include "shell/KeyLabel.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::OnboardingText {
 
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(OnboardingText)
+};
+} // namespace
+
 QString stepLabel(int step, int steps)
 {
-    return u"Step %1 of %2"_s.arg(step + 1).arg(steps);
+    return Text::tr("Step %1 of %2").arg(step + 1).arg(steps);
 }
 
 bool isLastStep(int step, int steps)
@@ -19,22 +27,22 @@ bool isLastStep(int step, int steps)
 
 QString primaryLabel(int step, int steps)
 {
-    return isLastStep(step, steps) ? u"Get Started"_s : u"Continue"_s;
+    return isLastStep(step, steps) ? Text::tr("Get Started") : Text::tr("Continue");
 }
 
 QString paletteTip()
 {
-    return KeyLabel::text(CommandTable::keys(CommandId::CommandPalette)) + u" opens the command palette"_s;
+    return Text::tr("%1 opens the command palette").arg(KeyLabel::text(CommandTable::keys(CommandId::CommandPalette)));
 }
 
 QString shareTip()
 {
-    return CommandTable::shareHotKeyText() + u" shares a few open times from anywhere"_s;
+    return Text::tr("%1 shares a few open times from anywhere").arg(CommandTable::shareHotKeyText());
 }
 
 QString signedInLabel(const std::optional<Account> &account)
 {
-    return account ? u"Signed in as %1"_s.arg(account->email) : QString();
+    return account ? Text::tr("Signed in as %1").arg(account->email) : QString();
 }
 
 } // namespace quorvane::OnboardingText

@@ -7,6 +7,7 @@
 #include "Formats.h"
 #include "Fuzzy.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane::CommandPalette {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(CommandPalette)
+};
 
 QString shortcutOrLink(const Command &command, const AppModel &app)
 {
@@ -39,15 +43,16 @@ QList<PaletteCommand> commands(AppModel &app, const CommandTable &table, const I
 
     AppModel *model = &app;
     if (const std::optional<Booking> next = app.next(); next && next->meetURL()) {
-        out.append({u"Join next meeting"_s,
+        out.append({Text::tr("Join next meeting"),
                     u"%1 · %2"_s.arg(next->name, Countdown::shortText(next->start, now)),
                     {},
                     u"video.fill"_s,
                     [model, booking = *next] { model->join(booking); }});
     }
     for (const EventType &type : app.activeTypes())
-        out.append(
-            {u"Copy link: "_s + type.title, app.link(type), {}, u"link"_s, [model, type] { model->copyLink(type); }});
+        out.append({Text::tr("Copy link: %1").arg(type.title), app.link(type), {}, u"link"_s, [model, type] {
+                        model->copyLink(type);
+                    }});
 
     QHash<QString, QString> titles; // by slug, inactive types too
     for (const EventType &type : app.eventTypes())

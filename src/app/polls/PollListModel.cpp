@@ -2,9 +2,17 @@
 
 #include "polls/Polls.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(PollListModel)
+};
+} // namespace
 
 PollListModel::PollListModel(QObject *parent)
     : AppListModel({&AppModel::snapshotChanged, &AppModel::preferencesChanged}, parent)
@@ -32,11 +40,11 @@ QVariant PollListModel::data(const QModelIndex &index, int role) const
     case TitleRole:
         return p.title;
     case MinutesRole:
-        return u"%1 min"_s.arg(p.minutes);
+        return Text::tr("%1 min").arg(p.minutes);
     case VotersRole:
         return Polls::votersLine(p.voters);
     case DeleteTitleRole:
-        return u"Delete \u201C%1\u201D?"_s.arg(p.title);
+        return Text::tr("Delete \u201C%1\u201D?").arg(p.title);
     default:
         return {};
     }
@@ -61,7 +69,7 @@ void PollListModel::copyLink(int row)
     if (!app() || row < 0 || row >= m_polls.size())
         return;
     app()->copy(url(m_polls.at(row)));
-    app()->toast(u"Poll link copied"_s);
+    app()->toast(Text::tr("Poll link copied"));
 }
 
 void PollListModel::open(int row)

@@ -3,9 +3,17 @@
 #include "Formats.h"
 #include "polls/Polls.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(PollOptionsModel)
+};
+} // namespace
 
 PollOptionsModel::PollOptionsModel(QObject *parent)
     : AppListModel({&AppModel::snapshotChanged}, parent)
@@ -59,8 +67,7 @@ QVariant PollOptionsModel::data(const QModelIndex &index, int role) const
     case LeadsRole:
         return Polls::leads(row.option.votes, row.top);
     case AccessibleRole:
-        return row.option.votes == 1 ? u"%1, 1 vote"_s.arg(time())
-                                     : u"%1, %2 votes"_s.arg(time()).arg(row.option.votes);
+        return Text::tr("%1, %n vote(s)", nullptr, row.option.votes).arg(time());
     default:
         return {};
     }

@@ -1,10 +1,17 @@
 #include "polls/Polls.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane::Polls {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Polls)
+};
+} // namespace
 
 QString url(const QString &base, const Poll &poll)
 {
@@ -32,7 +39,7 @@ bool leads(int votes, int top)
 
 QString votersLine(const QStringList &voters)
 {
-    return voters.isEmpty() ? u"No votes yet"_s : u"Voters: "_s + voters.join(u", "_s);
+    return voters.isEmpty() ? Text::tr("No votes yet") : Text::tr("Voters: %1").arg(voters.join(u", "_s));
 }
 
 QString defaultType(const QList<EventType> &activeTypes)

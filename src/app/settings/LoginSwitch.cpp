@@ -2,9 +2,17 @@
 
 #include "LoginItem.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(LoginSwitch)
+};
+} // namespace
 
 LoginSwitch::LoginSwitch(LoginItem &loginItem, QObject *parent)
     : QObject(parent)
@@ -22,9 +30,10 @@ void LoginSwitch::setLogin(bool enabled)
 
 QString LoginSwitch::failureText(bool enabled)
 {
-    return enabled
-               ? u"Couldn't add Quorvane to the programs that start at login: the autostart folder can't be written."_s
-               : u"Couldn't remove Quorvane from the programs that start at login: the autostart folder can't be written."_s;
+    return enabled ? Text::tr(
+               "Couldn't add Quorvane to the programs that start at login: the autostart folder can't be written.")
+                   : Text::tr("Couldn't remove Quorvane from the programs that start at login: the autostart folder "
+                              "can't be written.");
 }
 
 } // namespace quorvane

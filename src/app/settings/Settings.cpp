@@ -2,13 +2,21 @@
 
 #include "Formats.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::Settings {
 
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Settings)
+};
+} // namespace
+
 QString calendarKey(const CalendarItem &calendar)
 {
-    return calendar.primary ? u"primary"_s : calendar.id;
+    return calendar.primary ? Text::tr("primary") : calendar.id;
 }
 
 QString calendarLabel(const CalendarItem &calendar)
@@ -51,10 +59,10 @@ int bookingChoice(const QList<CalendarItem> &choices, const QString &bookingCale
 QString connectionText(bool connected, const std::optional<GoogleStatus> &status)
 {
     if (!connected)
-        return u"Not connected"_s;
+        return Text::tr("Not connected");
     if (status && status->email)
-        return u"Connected as %1"_s.arg(*status->email);
-    return u"Connected"_s;
+        return Text::tr("Connected as %1").arg(*status->email);
+    return Text::tr("Connected");
 }
 
 QString calendarError(const std::optional<GoogleStatus> &status)
@@ -76,7 +84,7 @@ QList<int> reminderChoices()
 
 QString reminderText(int minutes)
 {
-    return u"%1 min before"_s.arg(minutes);
+    return Text::tr("%1 min before").arg(minutes);
 }
 
 QString versionText(const QString &shortVersion, const QString &build)
@@ -89,7 +97,7 @@ QString lastCheckedText(const QDateTime &lastCheck, const Instant &now, const QS
 {
     if (!lastCheck.isValid())
         return {};
-    return u"Last checked "_s + Formats::relativeTime(lastCheck, now, locale);
+    return Text::tr("Last checked %1").arg(Formats::relativeTime(lastCheck, now, locale));
 }
 
 } // namespace quorvane::Settings

@@ -2,6 +2,7 @@
 
 #include "ShareFormatter.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QMap>
 #include <QTimeZone>
@@ -13,6 +14,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane::QuickShare {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(QuickShare)
+};
 
 QTimeZone timeZone(const QString &zone)
 {
@@ -101,13 +105,13 @@ QString link(const std::optional<QString> &answered, const QString &typeLink)
 QString text(const QList<Slot> &picked, const std::optional<EventType> &type, const QString &link, const QString &zone,
              const QString &locale, const Instant &now)
 {
-    return ShareFormatter::text(picked, type ? type->title : u"meeting"_s, type ? type->minutes : 30, link, zone,
+    return ShareFormatter::text(picked, type ? type->title : Text::tr("meeting"), type ? type->minutes : 30, link, zone,
                                 locale, now);
 }
 
 QString typeChoice(const EventType &type)
 {
-    return u"%1 · %2m"_s.arg(type.title).arg(type.minutes);
+    return Text::tr("%1 · %2m").arg(type.title).arg(type.minutes);
 }
 
 QStringList zoneChoices(const QString &machineZone, const QStringList &guestZonesNewestFirst)

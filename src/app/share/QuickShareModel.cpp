@@ -9,11 +9,18 @@
 #include "Formats.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(QuickShareModel)
+};
+} // namespace
 
 QuickShareModel::QuickShareModel(QObject *parent)
     : AppViewModel({&AppModel::snapshotChanged}, parent)
@@ -80,7 +87,7 @@ QString QuickShareModel::preview() const
 
 QString QuickShareModel::hint()
 {
-    return u"Pick up to 3 times (best-ranked first). Press %1 to copy."_s.arg(copyKeyText());
+    return Text::tr("Pick up to 3 times (best-ranked first). Press %1 to copy.").arg(copyKeyText());
 }
 
 QString QuickShareModel::copyKeyText()
@@ -197,7 +204,7 @@ void QuickShareModel::copyLink()
     if (!m_app || m_link.isEmpty())
         return;
     m_app->copy(m_link);
-    m_app->toast(u"Link copied"_s);
+    m_app->toast(Text::tr("Link copied"));
 }
 
 bool QuickShareModel::copyTimes()
@@ -205,7 +212,7 @@ bool QuickShareModel::copyTimes()
     if (!m_app || m_picked.isEmpty())
         return false;
     m_app->copy(preview());
-    m_app->toast(u"Times copied"_s);
+    m_app->toast(Text::tr("Times copied"));
     return true;
 }
 
@@ -227,7 +234,8 @@ void QuickShareModel::rebuildDays()
             const bool isBest = best.contains(slot.start);
             const QString label = Formats::format(slot.start, u"EEEEjmm"_s, locale, m_zone);
             row.chips.append({slot, Formats::format(slot.start, u"jmm"_s, locale, m_zone),
-                              isBest ? label + u", best of the day"_s : label, isBest, m_picked.contains(slot)});
+                              isBest ? Text::tr("%1, best of the day").arg(label) : label, isBest,
+                              m_picked.contains(slot)});
         }
         days.append(std::move(row));
     }

@@ -8,11 +8,16 @@
 #include "shell/ShellController.h"
 #include "updates/Updater.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(CommandTable)
+};
 
 QKeySequence ctrl(int key, Qt::KeyboardModifiers more = {})
 {
@@ -59,50 +64,55 @@ CommandTable::CommandTable(AppModel &model, ShellController &shell, const UrlOpe
     for (const AppSection section : Section::allCases()) {
         const int place = int(rows.size()) + 1;
         rows.append({u"go."_s + Section::id(section), Section::title(section), Section::symbol(section),
-                     keys(CommandId::Id(CommandId::GoToday + place - 1)), u"Go to "_s + Section::title(section),
-                     [app, section] { app->setSection(section); }});
+                     keys(CommandId::Id(CommandId::GoToday + place - 1)),
+                     Text::tr("Go to %1").arg(Section::title(section)), [app, section] { app->setSection(section); }});
     }
-    rows.append({u"shareTimes"_s, u"Share Times…"_s, u"paperplane"_s, keys(CommandId::ShareTimes),
-                 u"Quick Share times"_s, open(AppWindow::Share)});
+    rows.append({u"shareTimes"_s, Text::tr("Share Times…"), u"paperplane"_s, keys(CommandId::ShareTimes),
+                 Text::tr("Quick Share times"), open(AppWindow::Share)});
     // The sheet belongs to the Polls screen, which must be showing first.
-    rows.append(
-        {u"newPoll"_s, u"New Poll"_s, u"plus.square.on.square"_s, keys(CommandId::NewPoll), u"New poll"_s, [app] {
-             app->setSection(AppSection::polls);
-             app->setShowNewPoll(true);
-         }});
-    rows.append({u"refresh"_s, u"Refresh"_s, u"arrow.clockwise"_s, keys(CommandId::Refresh), u"Refresh"_s,
-                 [app] { app->refreshNow(); }});
-    rows.append({u"openDashboard"_s, u"Open Web Dashboard"_s, u"safari"_s, {}, u"Open web dashboard"_s, [app, links] {
-                     links->open(dashboard(app->baseURL()));
+    rows.append({u"newPoll"_s, Text::tr("New Poll"), u"plus.square.on.square"_s, keys(CommandId::NewPoll),
+                 Text::tr("New poll"), [app] {
+                     app->setSection(AppSection::polls);
+                     app->setShowNewPoll(true);
                  }});
+    rows.append({u"refresh"_s, Text::tr("Refresh"), u"arrow.clockwise"_s, keys(CommandId::Refresh), Text::tr("Refresh"),
+                 [app] { app->refreshNow(); }});
+    rows.append({u"openDashboard"_s,
+                 Text::tr("Open Web Dashboard"),
+                 u"safari"_s,
+                 {},
+                 Text::tr("Open web dashboard"),
+                 [app, links] { links->open(dashboard(app->baseURL())); }});
     rows.append({u"openBookingPage"_s,
-                 u"Open My Booking Page"_s,
+                 Text::tr("Open My Booking Page"),
                  u"person.crop.square"_s,
                  {},
-                 u"Open my booking page"_s,
+                 Text::tr("Open my booking page"),
                  [app, links] {
                      const QUrl page(app->pageLink(), QUrl::StrictMode);
                      if (page.isValid())
                          links->open(page);
                  }});
-    rows.append({u"settings"_s, u"Settings…"_s, u"gearshape"_s, keys(CommandId::Settings), u"Settings"_s,
+    rows.append({u"settings"_s, Text::tr("Settings…"), u"gearshape"_s, keys(CommandId::Settings), Text::tr("Settings"),
                  open(AppWindow::Settings)});
-    rows.append({u"commandPalette"_s, u"Command Palette…"_s, u"command"_s, keys(CommandId::CommandPalette), {}, [app] {
-                     app->setShowPalette(true);
-                 }});
+    rows.append(
+        {u"commandPalette"_s, Text::tr("Command Palette…"), u"command"_s, keys(CommandId::CommandPalette), {}, [app] {
+             app->setShowPalette(true);
+         }});
     rows.append({u"joinNext"_s,
-                 u"Join Next Meeting"_s,
+                 Text::tr("Join Next Meeting"),
                  u"video.fill"_s,
                  keys(CommandId::JoinNext),
                  {},
                  [app] { app->joinNext(); },
                  [app] { return app->canJoinNext(); }});
-    rows.append({u"openMain"_s, u"Open Quorvane"_s, u"macwindow"_s, {}, {}, open(AppWindow::Main)});
-    rows.append({u"welcomeGuide"_s, u"Welcome Guide"_s, u"questionmark.circle"_s, {}, {}, open(AppWindow::Onboarding)});
-    rows.append({u"about"_s, u"About Quorvane"_s, u"info.circle"_s, {}, {}, open(AppWindow::About)});
+    rows.append({u"openMain"_s, Text::tr("Open Quorvane"), u"macwindow"_s, {}, {}, open(AppWindow::Main)});
+    rows.append(
+        {u"welcomeGuide"_s, Text::tr("Welcome Guide"), u"questionmark.circle"_s, {}, {}, open(AppWindow::Onboarding)});
+    rows.append({u"about"_s, Text::tr("About Quorvane"), u"info.circle"_s, {}, {}, open(AppWindow::About)});
     // Until an updater is attached there is nothing to check.
     rows.append({u"checkForUpdates"_s,
-                 u"Check for Updates…"_s,
+                 Text::tr("Check for Updates…"),
                  u"arrow.down.circle"_s,
                  {},
                  {},
@@ -122,7 +132,7 @@ CommandTable::CommandTable(AppModel &model, ShellController &shell, const UrlOpe
                  [links, site] { links->open(site); },
                  {},
                  !site.isEmpty()});
-    rows.append({u"quit"_s, u"Quit"_s, u"power"_s, keys(CommandId::Quit), {}, [windows] { windows->quit(); }});
+    rows.append({u"quit"_s, Text::tr("Quit"), u"power"_s, keys(CommandId::Quit), {}, [windows] { windows->quit(); }});
     Q_ASSERT(rows.size() == CommandId::Quit + 1);
 
     for (Command::Row &row : rows)

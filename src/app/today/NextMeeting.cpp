@@ -3,9 +3,17 @@
 #include "Countdown.h"
 #include "Formats.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::NextMeeting {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(NextMeeting)
+};
+} // namespace
 
 bool isNow(const Booking &booking, const Instant &date)
 {
@@ -15,13 +23,13 @@ bool isNow(const Booking &booking, const Instant &date)
 QString caption(const Booking &booking, const Instant &date)
 {
     if (isNow(booking, date))
-        return u"HAPPENING NOW"_s;
-    return u"NEXT · %1"_s.arg(Countdown::shortText(booking.start, date));
+        return Text::tr("HAPPENING NOW");
+    return Text::tr("NEXT · %1").arg(Countdown::shortText(booking.start, date));
 }
 
 QString headline(const QString &typeTitle, const QString &name)
 {
-    return u"%1 with %2"_s.arg(typeTitle, name);
+    return Text::tr("%1 with %2").arg(typeTitle, name);
 }
 
 QString timeRange(const Booking &booking, const QString &locale, const QString &zone)
@@ -32,7 +40,7 @@ QString timeRange(const Booking &booking, const QString &locale, const QString &
 
 QString joinAccessibleName(const QString &name)
 {
-    return u"Join Google Meet with %1"_s.arg(name);
+    return Text::tr("Join Google Meet with %1").arg(name);
 }
 
 } // namespace quorvane::NextMeeting

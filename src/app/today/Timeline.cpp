@@ -1,8 +1,16 @@
 #include "today/Timeline.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane::Timeline {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Timeline)
+};
+} // namespace
 
 bool isPast(const Booking &booking, const Instant &now)
 {
@@ -21,7 +29,7 @@ qint64 minutes(const Booking &booking)
 
 QString detail(const QString &typeTitle, qint64 minutes)
 {
-    return u"%1 · %2 min"_s.arg(typeTitle).arg(minutes);
+    return Text::tr("%1 · %2 min").arg(typeTitle).arg(minutes);
 }
 
 bool showsJoin(const Booking &booking, const Instant &now)
@@ -31,7 +39,7 @@ bool showsJoin(const Booking &booking, const Instant &now)
 
 QString joinAccessibleName(const QString &name)
 {
-    return u"Join meeting with %1"_s.arg(name);
+    return Text::tr("Join meeting with %1").arg(name);
 }
 
 } // namespace quorvane::Timeline

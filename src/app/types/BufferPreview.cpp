@@ -1,5 +1,6 @@
 #include "types/BufferPreview.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -7,6 +8,10 @@ using namespace Qt::StringLiterals;
 namespace quorvane::BufferPreview {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(BufferPreview)
+};
+
 constexpr double gap = 2;
 constexpr double minimumWidth = 4;
 constexpr double labelFrom = 50;
@@ -24,16 +29,19 @@ QList<Segment> segments(int before, int minutes, int after, double width)
         x += segment.width + gap;
     };
     if (before >= 1)
-        add(Part::before, before, u"Buffer"_s);
-    add(Part::meeting, minutes, u"%1m"_s.arg(minutes));
+        add(Part::before, before, Text::tr("Buffer"));
+    add(Part::meeting, minutes, Text::tr("%1m").arg(minutes));
     if (after >= 1)
-        add(Part::after, after, u"Buffer"_s);
+        add(Part::after, after, Text::tr("Buffer"));
     return out;
 }
 
 QString accessibleLabel(int before, int minutes, int after)
 {
-    return u"Blocks %1 minutes before, %2 minute meeting, %3 minutes after"_s.arg(before).arg(minutes).arg(after);
+    return Text::tr("Blocks %1 minutes before, %2 minute meeting, %3 minutes after")
+        .arg(before)
+        .arg(minutes)
+        .arg(after);
 }
 
 } // namespace quorvane::BufferPreview

@@ -5,11 +5,18 @@
 
 #include "Palette.h"
 
+#include <QCoreApplication>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(EventTypeEditorModel)
+};
+} // namespace
 
 EventTypeEditorModel::EventTypeEditorModel(QObject *parent)
     : AppViewModel({&AppModel::snapshotChanged, &AppModel::preferencesChanged}, parent)
@@ -120,7 +127,7 @@ QStringList EventTypeEditorModel::durationLabels() const
 {
     QStringList out;
     for (const int n : EventTypes::durations(m_t.minutes))
-        out.append(u"%1 min"_s.arg(n));
+        out.append(Text::tr("%1 min").arg(n));
     return out;
 }
 

@@ -3,9 +3,17 @@
 #include "components/HexColor.h"
 #include "types/EventTypes.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(EventTypeListModel)
+};
+} // namespace
 
 EventTypeListModel::EventTypeListModel(QObject *parent)
     : AppListModel({&AppModel::draftSettingsChanged}, parent)
@@ -43,7 +51,7 @@ QVariant EventTypeListModel::data(const QModelIndex &index, int role) const
     case ActiveRole:
         return t.isActive;
     case AccessibleNameRole:
-        return t.title + u", "_s + EventTypes::subtitle(t) + (t.isActive ? QString() : u", Off"_s);
+        return t.title + u", "_s + EventTypes::subtitle(t) + (t.isActive ? QString() : Text::tr(", Off"));
     default:
         return {};
     }

@@ -3,6 +3,7 @@
 #include "Palette.h"
 #include "Slug.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -12,6 +13,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane::EventTypes {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(EventTypes)
+};
 
 QSet<QString> slugs(const QList<EventType> &types)
 {
@@ -34,7 +38,7 @@ EventType added(const QList<EventType> &types)
     EventType t;
     t.id = newRecordId();
     t.slug = Slug::unique(u"meeting"_s, slugs(types));
-    t.title = u"New Meeting"_s;
+    t.title = Text::tr("New Meeting");
     t.minutes = 30;
     t.bufferBefore = 5;
     t.bufferAfter = 5;
@@ -48,7 +52,7 @@ EventType duplicated(const EventType &type, const QList<EventType> &types)
 {
     EventType copy = type;
     copy.id = newRecordId();
-    copy.title = type.title + u" copy"_s;
+    copy.title = Text::tr("%1 copy").arg(type.title);
     copy.slug = Slug::unique(type.slug, slugs(types));
     return copy;
 }
@@ -127,16 +131,16 @@ bool canAddQuestion(const QString &text, const QStringList &questions)
 
 QString subtitle(const EventType &type)
 {
-    return u"%1 min \u00B7 /%2"_s.arg(type.minutes).arg(type.slug);
+    return Text::tr("%1 min \u00B7 /%2").arg(type.minutes).arg(type.slug);
 }
 
 QString detailPrompt(MeetingLocation location)
 {
     switch (location) {
     case MeetingLocation::in_person:
-        return u"Address"_s;
+        return Text::tr("Address");
     case MeetingLocation::custom:
-        return u"Details (e.g. Zoom link)"_s;
+        return Text::tr("Details (e.g. Zoom link)");
     case MeetingLocation::meet:
     case MeetingLocation::phone:
         break;
@@ -148,9 +152,9 @@ QString locationNote(MeetingLocation location)
 {
     switch (location) {
     case MeetingLocation::meet:
-        return u"A Google Meet link is created for every booking."_s;
+        return Text::tr("A Google Meet link is created for every booking.");
     case MeetingLocation::phone:
-        return u"You'll call the guest. Add a phone question below so they leave a number."_s;
+        return Text::tr("You'll call the guest. Add a phone question below so they leave a number.");
     case MeetingLocation::in_person:
     case MeetingLocation::custom:
         break;

@@ -7,6 +7,7 @@
 #include "UrlOpener.h"
 #include "updates/StagedUpdate.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -15,6 +16,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(FeedUpdater)
+};
 
 const QString automaticKey = u"updates/automatic"_s;
 const QString lastCheckKey = u"updates/lastCheck"_s;
@@ -27,7 +31,7 @@ QString failureText(std::exception_ptr failure)
     } catch (const APIError &e) {
         return e.errorDescription();
     } catch (...) {}
-    return u"The update feed couldn't be read."_s;
+    return Text::tr("The update feed couldn't be read.");
 }
 
 } // namespace
@@ -44,7 +48,7 @@ FeedUpdater::FeedUpdater(Config config, std::shared_ptr<HTTPTransport> transport
     , m_configured(m_config.publicKey.size() == 32)
 {
     if (!m_configured)
-        m_status = u"Updates aren't available in this build of Quorvane."_s;
+        m_status = Text::tr("Updates aren't available in this build of Quorvane.");
     m_timer.setInterval(m_config.schedule);
     connect(&m_timer, &QTimer::timeout, this, &FeedUpdater::checkIfDue);
     if (m_configured) {
@@ -125,7 +129,7 @@ QCoro::Task<> FeedUpdater::checkNow()
         co_return;
     m_checking = true;
     m_failed = false;
-    m_status = u"Checking for updates…"_s;
+    m_status = Text::tr("Checking for updates…");
     Q_EMIT stateChanged();
     const QuorvaneAPI api{m_server(), {}, m_transport};
     QByteArray document;
@@ -136,7 +140,7 @@ QCoro::Task<> FeedUpdater::checkNow()
         failure = std::current_exception();
     }
     if (failure) {
-        finish(u"Couldn't check for updates: %1"_s.arg(failureText(failure)), true);
+        finish(Text::tr("Couldn't check for updates: %1").arg(failureText(failure)), true);
         co_return;
     }
     m_settings.setValue(lastCheckKey, m_clock.now());
@@ -145,19 +149,19 @@ QCoro::Task<> FeedUpdater::checkNow()
     if (!m_found) {
         // A document that holds no release at all is no feed, rather than news of none.
         const bool noFeed = feed.releases.isEmpty() && feed.refused == 0;
-        finish(noFeed ? u"Couldn't check for updates: the update feed couldn't be read."_s
-                      : u"Quorvane is up to date."_s,
+        finish(noFeed ? Text::tr("Couldn't check for updates: the update feed couldn't be read.")
+                      : Text::tr("Quorvane is up to date."),
                noFeed);
         co_return;
     }
     switch (m_config.install) {
     case Install::package:
-        finish(u"Quorvane %1 is available. Your package manager delivers it with your other updates."_s.arg(
-                   m_found->version),
+        finish(Text::tr("Quorvane %1 is available. Your package manager delivers it with your other updates.")
+                   .arg(m_found->version),
                false);
         co_return;
     case Install::development:
-        finish(u"Quorvane %1 is available."_s.arg(m_found->version), false);
+        finish(Text::tr("Quorvane %1 is available.").arg(m_found->version), false);
         co_return;
     case Install::portable:
         break;
@@ -167,7 +171,7 @@ QCoro::Task<> FeedUpdater::checkNow()
 
 QCoro::Task<> FeedUpdater::fetchAndStage(Appcast::Release release)
 {
-    m_status = u"Downloading Quorvane %1…"_s.arg(release.version);
+    m_status = Text::tr("Downloading Quorvane %1…").arg(release.version);
     Q_EMIT stateChanged();
     const QuorvaneAPI api{m_server(), {}, m_transport};
     QByteArray bytes;
@@ -178,7 +182,7 @@ QCoro::Task<> FeedUpdater::fetchAndStage(Appcast::Release release)
         failure = std::current_exception();
     }
     if (failure) {
-        finish(u"Couldn't download Quorvane %1: %2"_s.arg(release.version, failureText(failure)), true);
+        finish(Text::tr("Couldn't download Quorvane %1: %2").arg(release.version, failureText(failure)), true);
         co_return;
     }
     const Appcast::Check check = Appcast::verify(release, bytes, m_config.publicKey);
@@ -188,12 +192,12 @@ QCoro::Task<> FeedUpdater::fetchAndStage(Appcast::Release release)
     }
     QString error;
     if (!StagedUpdate::stage(m_config.stagingDirectory, bytes, &error)) {
-        finish(u"Couldn't keep the download of Quorvane %1: %2"_s.arg(release.version, error), true);
+        finish(Text::tr("Couldn't keep the download of Quorvane %1: %2").arg(release.version, error), true);
         co_return;
     }
     finish(
-        u"Quorvane %1 is downloaded and verified. It takes this version's place the next time Quorvane starts."_s.arg(
-            release.version),
+        Text::tr("Quorvane %1 is downloaded and verified. It takes this version's place the next time Quorvane starts.")
+            .arg(release.version),
         false);
 }
 

@@ -1,5 +1,6 @@
 #include "updates/StagedUpdate.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -9,6 +10,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane::StagedUpdate {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(StagedUpdate)
+};
 
 constexpr QFileDevice::Permissions ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
@@ -28,7 +32,7 @@ bool stage(const QString &directory, const QByteArray &bytes, QString *error)
 {
     if (!QDir().mkpath(directory)) {
         if (error)
-            *error = u"Couldn't create %1"_s.arg(directory);
+            *error = Text::tr("Couldn't create %1").arg(directory);
         return false;
     }
     QFile::setPermissions(directory, ownerOnly);

@@ -1,22 +1,30 @@
 #include "APIError.h"
 
+#include <QCoreApplication>
+
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(APIError)
+};
+} // namespace
 
 QString APIError::errorDescription() const
 {
     switch (m_kind) {
     case Kind::notSignedIn:
-        return QStringLiteral("You're not signed in.");
+        return Text::tr("You're not signed in.");
     case Kind::unauthorized:
-        return QStringLiteral("Your session has expired. Sign in again.");
+        return Text::tr("Your session has expired. Sign in again.");
     case Kind::offline:
-        return QStringLiteral("You're offline. Showing saved data.");
+        return Text::tr("You're offline. Showing saved data.");
     case Kind::rateLimited:
-        return QStringLiteral("Too many requests. Quorvane will retry shortly.");
+        return Text::tr("Too many requests. Quorvane will retry shortly.");
     case Kind::server:
-        return m_message.isEmpty() ? QStringLiteral("Server error (%1)").arg(m_status) : m_message;
+        return m_message.isEmpty() ? Text::tr("Server error (%1)").arg(m_status) : m_message;
     case Kind::decoding:
-        return QStringLiteral("Unexpected response: %1").arg(m_message);
+        return Text::tr("Unexpected response: %1").arg(m_message);
     }
     return {};
 }

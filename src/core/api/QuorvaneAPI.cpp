@@ -8,12 +8,19 @@
 #include "JSON.h"
 #include "JSONFailure.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QUrlQuery>
 
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(QuorvaneAPI)
+};
+} // namespace
 
 // The server's list answers. Private wrappers, decoded strictly, never encoded.
 namespace {
@@ -260,7 +267,7 @@ QCoro::Task<DeviceCodes> askForCodes(QuorvaneAPI api, QString label)
     const HTTPResponse answer = co_await unsignedPost(api, u"auth/device/start"_s, body);
     // Only 200 counts: this step has no "created" or "no content" to give.
     if (answer.status != 200)
-        throw APIError::server(answer.status, u"Couldn't start sign-in."_s);
+        throw APIError::server(answer.status, Text::tr("Couldn't start sign-in."));
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(answer.body, &error);
     if (error.error != QJsonParseError::NoError)

@@ -2,6 +2,7 @@
 
 #include "Version.h"
 
+#include <QCoreApplication>
 #include <QXmlStreamReader>
 
 #include <sodium.h>
@@ -11,6 +12,9 @@ using namespace Qt::StringLiterals;
 namespace quorvane::Appcast {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(Appcast)
+};
 
 bool isWeb(const QUrl &url)
 {
@@ -116,13 +120,15 @@ QString refusal(Check check, const QString &version)
     case Check::ok:
         return {};
     case Check::wrongLength:
-        return u"The download of Quorvane %1 was refused: it isn't the size the update feed gives."_s.arg(version);
+        return Text::tr("The download of Quorvane %1 was refused: it isn't the size the update feed gives.")
+            .arg(version);
     case Check::badSignature:
-        return u"The download of Quorvane %1 was refused: its signature doesn't match Quorvane's key."_s.arg(version);
+        return Text::tr("The download of Quorvane %1 was refused: its signature doesn't match Quorvane's key.")
+            .arg(version);
     case Check::badKey:
         break;
     }
-    return u"Updates can't be verified: this copy of Quorvane has no valid update key."_s;
+    return Text::tr("Updates can't be verified: this copy of Quorvane has no valid update key.");
 }
 
 } // namespace quorvane::Appcast

@@ -2,6 +2,7 @@
 
 #include "Formats.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -9,6 +10,9 @@
 namespace quorvane::ShareFormatter {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(ShareFormatter)
+};
 
 QString zoneName(const QString &timeZone, const QString &locale, const Instant &now)
 {
@@ -25,14 +29,14 @@ QString text(const QList<Slot> &slots, const QString &typeTitle, int minutes, co
     std::stable_sort(sorted.begin(), sorted.end(), [](const Slot &a, const Slot &b) { return a.start < b.start; });
 
     QStringList lines;
-    lines.append(QStringLiteral("Here are a few times that work for a %1-minute %2 (%3):")
+    lines.append(Text::tr("Here are a few times that work for a %1-minute %2 (%3):")
                      .arg(QString::number(minutes), typeTitle.toLower(), zoneName(timeZone, locale, now)));
     lines.append(QString());
     for (const Slot &slot : std::as_const(sorted))
         lines.append(QStringLiteral("• ")
                      + Formats::format(slot.start, QStringLiteral("EEEMMMdjmm"), locale, timeZone));
     lines.append(QString());
-    lines.append(QStringLiteral("Grab one (or see more options) here: ") + link);
+    lines.append(Text::tr("Grab one (or see more options) here: %1").arg(link));
     return lines.join(u'\n');
 }
 

@@ -2,6 +2,7 @@
 
 #include "JSON.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -10,6 +11,9 @@
 namespace quorvane {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(SnapshotCache)
+};
 
 constexpr QFile::Permissions ownerOnlyFile = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions ownerOnlyDirectory = ownerOnlyFile | QFile::ExeOwner;
@@ -32,7 +36,7 @@ bool makeDirectory(const QString &path, QString *error)
     if (!QDir().mkpath(parent.absolutePath()) || !parent.mkdir(info.fileName(), ownerOnlyDirectory)) {
         if (QFileInfo(path).isDir()) // made by someone else meanwhile
             return true;
-        return fail(error, QStringLiteral("Couldn't create the folder %1").arg(QDir::toNativeSeparators(path)));
+        return fail(error, Text::tr("Couldn't create the folder %1").arg(QDir::toNativeSeparators(path)));
     }
     return true;
 }
@@ -67,8 +71,7 @@ bool SnapshotCache::save(const Snapshot &snapshot, QString *error) const
                          // Before the rename, so that the new file is never visible with a wider mode.
                          && file.setPermissions(ownerOnlyFile) && file.commit();
     if (!written)
-        return fail(error,
-                    QStringLiteral("Couldn't save %1 (%2)").arg(QDir::toNativeSeparators(m_path), file.errorString()));
+        return fail(error, Text::tr("Couldn't save %1 (%2)").arg(QDir::toNativeSeparators(m_path), file.errorString()));
     return true;
 }
 

@@ -1,8 +1,16 @@
 #include "MeetingLocation.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(MeetingLocation)
+};
+} // namespace
 
 namespace Location {
 
@@ -39,13 +47,13 @@ QString label(MeetingLocation location)
 {
     switch (location) {
     case MeetingLocation::meet:
-        return u"Google Meet"_s;
+        return Text::tr("Google Meet");
     case MeetingLocation::phone:
-        return u"Phone call"_s;
+        return Text::tr("Phone call");
     case MeetingLocation::in_person:
-        return u"In person"_s;
+        return Text::tr("In person");
     case MeetingLocation::custom:
-        return u"Custom"_s;
+        return Text::tr("Custom");
     }
     return {};
 }

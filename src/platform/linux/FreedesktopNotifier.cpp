@@ -2,6 +2,7 @@
 
 #include "NotificationPlan.h"
 
+#include <QCoreApplication>
 #include <QCoroDBusPendingCall>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -11,6 +12,9 @@
 namespace quorvane {
 
 namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(FreedesktopNotifier)
+};
 
 const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
@@ -21,10 +25,10 @@ const QString appID = QStringLiteral("com.peldrachen.quorvane");
 // itself, which opens the app like "View".
 QStringList actions(NotificationCategory category)
 {
-    QStringList list{QStringLiteral("default"), QStringLiteral("View")};
+    QStringList list{QStringLiteral("default"), Text::tr("View")};
     if (category == NotificationCategory::meeting)
-        list << QStringLiteral("JOIN") << QStringLiteral("Join Meet");
-    list << QStringLiteral("OPEN") << QStringLiteral("View");
+        list << QStringLiteral("JOIN") << Text::tr("Join Meet");
+    list << QStringLiteral("OPEN") << Text::tr("View");
     return list;
 }
 

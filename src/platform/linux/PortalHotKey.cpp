@@ -1,5 +1,6 @@
 #include "linux/PortalHotKey.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -43,6 +44,12 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &s
 }
 
 namespace quorvane {
+
+namespace {
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(PortalHotKey)
+};
+} // namespace
 
 PortalHotKey::PortalHotKey(QDBusConnection bus, QObject *parent)
     : HotKey(parent)
@@ -101,7 +108,8 @@ void PortalHotKey::sessionCreated(uint response, const QVariantMap &results)
         return;
     const QString preferred = u"CTRL+ALT+LOGO+s"_s;
     const QList<PortalShortcut> shortcuts{
-        {QString::fromLatin1(shortcutId), {{u"description"_s, u"Share times"_s}, {u"preferred_trigger"_s, preferred}}}};
+        {QString::fromLatin1(shortcutId),
+         {{u"description"_s, Text::tr("Share times")}, {u"preferred_trigger"_s, preferred}}}};
     request(u"BindShortcuts"_s,
             {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(shortcuts), QString()}, {},
             SLOT(shortcutsBound(uint, QVariantMap)));

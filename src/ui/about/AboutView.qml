@@ -39,7 +39,7 @@ Item {
         }
         Label {
             Layout.alignment: Qt.AlignHCenter
-            text: "Smart scheduling links for your Google Calendar."
+            text: qsTr("Smart scheduling links for your Google Calendar.")
             font.pixelSize: Typography.callout
         }
         LinkRow {

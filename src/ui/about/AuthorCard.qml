@@ -29,7 +29,7 @@ ColumnLayout {
     }
     Label {
         Layout.fillWidth: true
-        text: "Vibe coded with an AI assistant, one idea at a time."
+        text: qsTr("Vibe coded with an AI assistant, one idea at a time.")
         wrapMode: Text.WordWrap
         font.pixelSize: Typography.callout
         color: Style.secondary

@@ -68,6 +68,7 @@ FocusScope {
                     id: caption
                     text: segment.modelData
                     horizontalAlignment: Text.AlignHCenter
+                    elide: Text.ElideRight // a segment is a share of the control, however long its title
                     verticalAlignment: Text.AlignVCenter
                     font.pixelSize: Typography.callout
                     font.weight: segment.checked ? Font.DemiBold : Font.Normal

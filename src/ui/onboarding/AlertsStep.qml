@@ -13,21 +13,21 @@ OnboardingStep {
 
     Label {
         Layout.fillWidth: true
-        text: "Stay in the loop"
+        text: qsTr("Stay in the loop")
         font.pixelSize: Typography.title
         font.bold: true
     }
     WrappingSwitch {
         objectName: "notifSwitch"
         Layout.fillWidth: true
-        text: "Notify me about new bookings, cancellations and upcoming meetings"
+        text: qsTr("Notify me about new bookings, cancellations and upcoming meetings")
         checked: root.guide.notif
         onToggled: root.guide.notif = checked
     }
     WrappingSwitch {
         objectName: "loginSwitch"
         Layout.fillWidth: true
-        text: "Open Quorvane at login (lives in the tray)"
+        text: qsTr("Open Quorvane at login (lives in the tray)")
         checked: root.guide.login
         onToggled: root.guide.login = checked
     }

@@ -11,7 +11,7 @@ OnboardingStep {
 
     Label {
         Layout.fillWidth: true
-        text: "You're all set"
+        text: qsTr("You're all set")
         font.pixelSize: Typography.title
         font.bold: true
     }
@@ -35,7 +35,7 @@ OnboardingStep {
         }
         SymbolLabel {
             Layout.fillWidth: true
-            text: "The tray shows your next meeting"
+            text: qsTr("The tray shows your next meeting")
             symbol: "menubar.rectangle"
             color: Style.secondary
             pixelSize: Typography.callout

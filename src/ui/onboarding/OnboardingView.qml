@@ -88,7 +88,7 @@ Item {
             Button {
                 objectName: "backButton"
                 visible: root.guide.canGoBack
-                text: "Back"
+                text: qsTr("Back")
                 onClicked: root.guide.back()
             }
             Button {

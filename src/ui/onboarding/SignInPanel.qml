@@ -38,7 +38,7 @@ ColumnLayout {
             objectName: "signInButton"
             Layout.fillWidth: true
             Layout.preferredHeight: 38
-            text: "Sign in with your Quorvane account"
+            text: qsTr("Sign in with your Quorvane account")
             icon.source: Style.icon("person.badge.key", Style.accentText)
             icon.color: "transparent" // the provider has drawn the colour already
             // The one prominent control on the panel: filled in the accent colour.
@@ -50,7 +50,7 @@ ColumnLayout {
         }
         Label {
             Layout.fillWidth: true
-            text: "Opens your browser. Sign in with Google and approve this computer. The token is stored in your system keyring."
+            text: qsTr("Opens your browser. Sign in with Google and approve this computer. The token is stored in your system keyring.")
             wrapMode: Text.WordWrap
             font.pixelSize: Typography.caption
             color: Style.secondary
@@ -65,7 +65,7 @@ ColumnLayout {
         spacing: Style.spaceL
 
         Label {
-            text: "Confirm this code in your browser:"
+            text: qsTr("Confirm this code in your browser:")
             font.pixelSize: Typography.callout
         }
         TextEdit {
@@ -89,14 +89,14 @@ ColumnLayout {
                 objectName: "openAgainButton"
                 leftPadding: Style.spaceXL
                 rightPadding: Style.spaceXL
-                text: "Open Browser Again"
+                text: qsTr("Open Browser Again")
                 onClicked: Setup.openAgain(root.auth)
             }
             Button {
                 objectName: "cancelButton"
                 leftPadding: Style.spaceXL
                 rightPadding: Style.spaceXL
-                text: "Cancel"
+                text: qsTr("Cancel")
                 onClicked: root.auth.cancel()
             }
             BusyIndicator {
@@ -110,7 +110,7 @@ ColumnLayout {
     SymbolLabel {
         objectName: "donePart"
         visible: root.phase === SignInPhase.Done
-        text: "Signed in"
+        text: qsTr("Signed in")
         symbol: "checkmark.circle.fill"
         color: Style.green
     }
@@ -131,7 +131,7 @@ ColumnLayout {
         }
         Button {
             objectName: "tryAgainButton"
-            text: "Try Again"
+            text: qsTr("Try Again")
             onClicked: Setup.begin(root.auth)
         }
     }

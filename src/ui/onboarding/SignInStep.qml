@@ -10,7 +10,7 @@ OnboardingStep {
 
     Label {
         Layout.fillWidth: true
-        text: "Sign in"
+        text: qsTr("Sign in")
         font.pixelSize: Typography.title
         font.bold: true
     }

@@ -6,13 +6,13 @@ import Quorvane.Components
 OnboardingStep {
     Label {
         Layout.fillWidth: true
-        text: "Welcome to Quorvane 2"
+        text: qsTr("Welcome to Quorvane 2")
         font.pixelSize: Typography.largeTitle
         font.bold: true
     }
     Label {
         Layout.fillWidth: true
-        text: "Share a link and let people book time that's really free. Your best hours come first, and every meeting lands on Google Calendar with a Meet link."
+        text: qsTr("Share a link and let people book time that's really free. Your best hours come first, and every meeting lands on Google Calendar with a Meet link.")
         wrapMode: Text.WordWrap
         font.pixelSize: Typography.body
     }

@@ -16,17 +16,17 @@ SettingsForm {
 
     FormSection {
         objectName: "signedInSection"
-        title: "Signed in"
+        title: qsTr("Signed in")
         visible: account.signedIn
 
         FactRow {
             objectName: "accountName"
-            label: "Name"
+            label: qsTr("Name")
             value: account.name
         }
         FactRow {
             objectName: "accountEmail"
-            label: "Email"
+            label: qsTr("Email")
             value: account.email
         }
         RowLayout {
@@ -34,7 +34,7 @@ SettingsForm {
             spacing: Style.spaceL
             Label {
                 Layout.fillWidth: true
-                text: "Booking page"
+                text: qsTr("Booking page")
             }
             Label {
                 objectName: "bookingPageLink"
@@ -48,7 +48,7 @@ SettingsForm {
                 Keys.onReturnPressed: account.openPage()
                 Keys.onSpacePressed: account.openPage()
                 Accessible.role: Accessible.Link
-                Accessible.name: "Booking page " + account.pageLink
+                Accessible.name: qsTr("Booking page %1").arg(account.pageLink)
                 MouseArea {
                     id: linkArea
                     anchors.fill: parent
@@ -62,14 +62,14 @@ SettingsForm {
             Layout.fillWidth: true
             Button {
                 objectName: "dashboardButton"
-                text: "Web Dashboard"
+                text: qsTr("Web Dashboard")
                 Keys.onReturnPressed: clicked()
                 onClicked: account.openDashboard()
             }
             Item { Layout.fillWidth: true }
             Button {
                 objectName: "signOutButton"
-                text: "Sign Out\u2026"
+                text: qsTr("Sign Out\u2026")
                 palette.buttonText: Style.red
                 Keys.onReturnPressed: clicked()
                 onClicked: confirm.open()
@@ -79,7 +79,7 @@ SettingsForm {
 
     FormSection {
         objectName: "signInSection"
-        title: "Account"
+        title: qsTr("Account")
         visible: !account.signedIn
 
         Loader {
@@ -91,13 +91,13 @@ SettingsForm {
     }
 
     FormSection {
-        title: "Server"
+        title: qsTr("Server")
 
         RowLayout {
             Layout.fillWidth: true
             spacing: Style.spaceL
             Label {
-                text: "Server URL"
+                text: qsTr("Server URL")
             }
             TextField {
                 objectName: "serverField"
@@ -105,22 +105,22 @@ SettingsForm {
                 text: App.serverURL
                 selectByMouse: true
                 inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoAutoUppercase
-                Accessible.name: "Server URL"
+                Accessible.name: qsTr("Server URL")
                 onTextEdited: App.serverURL = text
                 onAccepted: account.serverEntered()
             }
         }
         Note {
-            text: "Your token is stored in your system keyring. Saved data is cached for offline use."
+            text: qsTr("Your token is stored in your system keyring. Saved data is cached for offline use.")
         }
     }
 
     ConfirmDialog {
         id: confirm
         objectName: "signOutConfirm"
-        title: "Sign out of Quorvane on this computer?"
-        message: "Your booking page keeps working. You can revoke this computer's token in the web dashboard."
-        actionText: "Sign Out"
+        title: qsTr("Sign out of Quorvane on this computer?")
+        message: qsTr("Your booking page keeps working. You can revoke this computer's token in the web dashboard.")
+        actionText: qsTr("Sign Out")
         onConfirmed: account.signOut()
     }
 }

@@ -17,7 +17,7 @@ SettingsForm {
     }
 
     FormSection {
-        title: "Google Calendar"
+        title: qsTr("Google Calendar")
 
         RowLayout {
             Layout.fillWidth: true
@@ -38,7 +38,7 @@ SettingsForm {
             }
             Button {
                 objectName: "connectButton"
-                text: calendar.connected ? "Reconnect" : "Connect"
+                text: calendar.connected ? qsTr("Reconnect") : qsTr("Connect")
                 Keys.onReturnPressed: clicked()
                 onClicked: calendar.connectCalendar()
             }
@@ -51,7 +51,7 @@ SettingsForm {
     }
 
     FormSection {
-        title: "Check these calendars for conflicts"
+        title: qsTr("Check these calendars for conflicts")
         visible: calendar.showsCalendars
 
         Repeater {
@@ -75,7 +75,7 @@ SettingsForm {
     }
 
     FormSection {
-        title: "New bookings"
+        title: qsTr("New bookings")
         visible: calendar.showsCalendars
 
         RowLayout {
@@ -83,7 +83,7 @@ SettingsForm {
             spacing: Style.spaceL
             Label {
                 Layout.fillWidth: true
-                text: "Add to"
+                text: qsTr("Add to")
             }
             ChoiceBox {
                 objectName: "bookingCalendar"
@@ -97,14 +97,14 @@ SettingsForm {
                 valueRole: "key"
                 currentIndex: calendar.bookingIndex
                 displayText: currentIndex < 0 ? "" : currentText
-                Accessible.name: "Add to"
+                Accessible.name: qsTr("Add to")
                 onActivated: index => calendar.chooseBooking(index)
             }
         }
         WrappingSwitch {
             objectName: "meetSwitch"
             Layout.fillWidth: true
-            text: "Add Google Meet links (when the event type uses Meet)"
+            text: qsTr("Add Google Meet links (when the event type uses Meet)")
             checked: calendar.addMeet
             onToggled: calendar.addMeet = checked
         }

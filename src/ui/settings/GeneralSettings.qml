@@ -16,7 +16,7 @@ SettingsForm {
             id: loginSwitchControl
             objectName: "loginSwitch"
             Layout.fillWidth: true
-            text: "Open Quorvane at login"
+            text: qsTr("Open Quorvane at login")
             checked: root.loginSwitch.login
             onToggled: root.loginSwitch.login = checked
             // The item may have refused: show what holds, even when that is no change.
@@ -33,37 +33,37 @@ SettingsForm {
         WrappingSwitch {
             objectName: "trayNextSwitch"
             Layout.fillWidth: true
-            text: "Show next meeting in the tray"
+            text: qsTr("Show next meeting in the tray")
             checked: App.menuBarShowsNext
             onToggled: App.menuBarShowsNext = checked
         }
     }
 
     FormSection {
-        title: "Keyboard"
+        title: qsTr("Keyboard")
 
         FactRow {
             objectName: "shareKey"
-            label: "Quick Share (anywhere)"
+            label: qsTr("Quick Share (anywhere)")
             value: Commands.shareHotKeyText
         }
         FactRow {
             objectName: "paletteKey"
-            label: "Command palette"
+            label: qsTr("Command palette")
             value: Commands.get(CommandId.CommandPalette).shortcutText
         }
         FactRow {
             objectName: "sectionKeys"
-            label: "Sections"
+            label: qsTr("Sections")
             value: Commands.get(CommandId.GoToday).shortcutText + " \u2013 " + Commands.get(CommandId.GoInsights).shortcutText
         }
         FactRow {
             objectName: "refreshKey"
-            label: "Refresh"
+            label: qsTr("Refresh")
             value: Commands.get(CommandId.Refresh).shortcutText
         }
         Note {
-            text: "Where the desktop has no global shortcut service, bind a key to this command in your desktop's keyboard settings:"
+            text: qsTr("Where the desktop has no global shortcut service, bind a key to this command in your desktop's keyboard settings:")
         }
         SelectableText {
             objectName: "shareCommand"
@@ -71,7 +71,7 @@ SettingsForm {
             text: "quorvane --share"
             font.family: "monospace"
             font.pixelSize: Typography.caption
-            Accessible.name: "Command for Quick Share: quorvane --share"
+            Accessible.name: qsTr("Command for Quick Share: quorvane --share")
         }
     }
 }

@@ -34,12 +34,12 @@ SettingsForm {
             }
             Label {
                 Layout.fillWidth: true
-                text: "Notifications are off for Quorvane."
+                text: qsTr("Notifications are off for Quorvane.")
                 wrapMode: Text.WordWrap
             }
             Button {
                 objectName: "enableButton"
-                text: "Enable\u2026"
+                text: qsTr("Enable\u2026")
                 Keys.onReturnPressed: clicked()
                 onClicked: root.access.enable()
             }
@@ -47,24 +47,24 @@ SettingsForm {
         Note {
             objectName: "notificationsHelp"
             visible: root.access.refused
-            text: "No notification service answered on this desktop. Turn notifications on in your desktop's settings, or, if it has none of its own, install and start a notification daemon such as dunst or mako. Then choose Enable\u2026 again."
+            text: qsTr("No notification service answered on this desktop. Turn notifications on in your desktop's settings, or, if it has none of its own, install and start a notification daemon such as dunst or mako. Then choose Enable\u2026 again.")
         }
     }
 
     FormSection {
-        title: "Alerts"
+        title: qsTr("Alerts")
 
         WrappingSwitch {
             objectName: "bookingsSwitch"
             Layout.fillWidth: true
-            text: "New bookings and cancellations"
+            text: qsTr("New bookings and cancellations")
             checked: App.notifyBookings
             onToggled: App.notifyBookings = checked
         }
         WrappingSwitch {
             objectName: "remindersSwitch"
             Layout.fillWidth: true
-            text: "Meeting reminders with a Join button"
+            text: qsTr("Meeting reminders with a Join button")
             checked: alerts.notifyReminders
             onToggled: alerts.notifyReminders = checked
         }
@@ -75,20 +75,20 @@ SettingsForm {
             spacing: Style.spaceL
             Label {
                 Layout.fillWidth: true
-                text: "Remind me"
+                text: qsTr("Remind me")
             }
             ChoiceBox {
                 objectName: "remindMe"
                 Layout.preferredWidth: 160
                 model: alerts.reminderChoices
                 currentIndex: alerts.reminderIndex
-                Accessible.name: "Remind me"
+                Accessible.name: qsTr("Remind me")
                 onActivated: index => alerts.chooseReminder(index)
             }
         }
     }
 
     Note {
-        text: "Quorvane checks for changes every minute while it's running (it lives in the tray)."
+        text: qsTr("Quorvane checks for changes every minute while it's running (it lives in the tray).")
     }
 }

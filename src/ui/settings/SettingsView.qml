@@ -39,12 +39,12 @@ Item {
 
             Repeater {
                 model: [
-                    { name: "general", title: "General", symbol: "gearshape" },
-                    { name: "account", title: "Account", symbol: "person.crop.circle" },
-                    { name: "calendar", title: "Calendar", symbol: "calendar" },
-                    { name: "notifications", title: "Notifications", symbol: "bell.badge" },
-                    { name: "updates", title: "Updates", symbol: "arrow.down.circle" },
-                    { name: "about", title: "About", symbol: "info.circle" }
+                    { name: "general", title: qsTr("General"), symbol: "gearshape" },
+                    { name: "account", title: qsTr("Account"), symbol: "person.crop.circle" },
+                    { name: "calendar", title: qsTr("Calendar"), symbol: "calendar" },
+                    { name: "notifications", title: qsTr("Notifications"), symbol: "bell.badge" },
+                    { name: "updates", title: qsTr("Updates"), symbol: "arrow.down.circle" },
+                    { name: "about", title: qsTr("About"), symbol: "info.circle" }
                 ]
                 TabButton {
                     required property var modelData

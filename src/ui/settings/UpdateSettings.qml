@@ -18,13 +18,13 @@ SettingsForm {
     FormSection {
         FactRow {
             objectName: "version"
-            label: "Version"
+            label: qsTr("Version")
             value: Updates.versionText
         }
         WrappingSwitch {
             objectName: "automaticSwitch"
             Layout.fillWidth: true
-            text: "Automatically check for updates"
+            text: qsTr("Automatically check for updates")
             checked: Updates.automatic
             onToggled: Updates.automatic = checked
         }
@@ -33,7 +33,7 @@ SettingsForm {
             spacing: Style.spaceL
             Button {
                 objectName: "checkButton"
-                text: "Check for Updates\u2026"
+                text: qsTr("Check for Updates\u2026")
                 enabled: Updates.canCheck
                 Keys.onReturnPressed: clicked()
                 onClicked: Updates.check()
@@ -63,7 +63,7 @@ SettingsForm {
             Button {
                 objectName: "notesButton"
                 visible: Updates.availableVersion.length > 0
-                text: "Release Notes"
+                text: qsTr("Release Notes")
                 Keys.onReturnPressed: clicked()
                 onClicked: Updates.openNotes()
             }
@@ -71,6 +71,6 @@ SettingsForm {
     }
 
     Note {
-        text: "Updates are signed with Quorvane's EdDSA key."
+        text: qsTr("Updates are signed with Quorvane's EdDSA key.")
     }
 }

@@ -2,6 +2,7 @@
 // commit, the edits of a day column, the looks and texts, the
 // rules form's steps, and the time zone list.
 #include "NLAvailability.h"
+#include "Translations.h"
 #include "availability/Availability.h"
 #include "availability/DragGesture.h"
 #include "availability/TimeZoneListModel.h"
@@ -51,6 +52,8 @@ class TestAvailabilityLogic : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { Translations::install(u"en"_s); } // the English plural forms
+
     void positions()
     {
         QCOMPARE(minute(9.5), 375);

@@ -20,6 +20,7 @@ struct Scene {
     std::function<void(Stage &)> prepare;
     QSize size;         // the window's size, where not its own
     int settleMs = 400; // time for refreshes, transitions and fades before the picture
+    QString language;   // the translation it is drawn in ("pseudo"); empty: English
 };
 
 } // namespace quorvane::test

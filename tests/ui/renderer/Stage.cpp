@@ -1,5 +1,6 @@
 #include "Stage.h"
 
+#include "Translations.h"
 #include "components/IconProvider.h"
 #include "shell/AppWindow.h"
 #include "tray/TrayController.h"
@@ -42,6 +43,7 @@ QObject *findIn(QObject *root, const QString &name)
 
 Stage::Stage(const Scene &scene)
     : m_scene(scene)
+    , m_translation(Translations::install(scene.language.isEmpty() ? u"en"_s : scene.language))
     , m_app(std::make_unique<FixtureApp>(scene.fixture))
     , m_engine(std::make_unique<QQmlApplicationEngine>())
 {
@@ -62,6 +64,8 @@ Stage::~Stage()
 
 bool Stage::show()
 {
+    if (!m_scene.language.isEmpty() && m_translation.isEmpty())
+        m_problems.append(u"no translation \"%1\""_s.arg(m_scene.language));
     m_engine->load(QUrl(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s));
     if (m_engine->rootObjects().isEmpty()) {
         m_problems.append(u"the shell did not load"_s);

@@ -44,6 +44,7 @@ private:
     bool waitForFrame(QQuickWindow *window);
 
     Scene m_scene;
+    QString m_translation; // installed before the fixture makes its first text
     std::unique_ptr<FixtureApp> m_app;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QPointer<QQuickWindow> m_popover; // the tray popover, for its scenes
