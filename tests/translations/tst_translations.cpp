@@ -20,18 +20,24 @@ namespace {
 const QRegularExpression words(uR"(^[A-Z][a-z]+(?:$|[ ,.:;!?…'])|[A-Za-z]{2,} [a-z]{2,})"_s);
 // Names that stay as they are in every language (the keys are named as QKeySequence names
 // them), and names for programs, not people.
-const QStringList names{u"Quorvane"_s, u"quorvane --share"_s, u"Google Meet"_s, u"Linux"_s, u"Fusion"_s, u"Activated"_s,
-                        u"Response"_s, u"Notify"_s,           u"Hidden"_s,      u"Ctrl"_s,  u"Alt"_s,    u"Super"_s,
-                        u"Shift"_s};
+const QStringList names{
+    u"Quorvane"_s, u"quorvane --share"_s, u"Google Meet"_s, u"Linux"_s, u"Fusion"_s, u"Activated"_s, u"Response"_s,
+    u"Notify"_s,   u"Hidden"_s,           u"Ctrl"_s,        u"Alt"_s,   u"Super"_s,  u"Shift"_s,     u"Read"_s};
 const QRegularExpression moduleName(uR"(^Quorvane\.[A-Z]\w*$)"_s);
 // Text no person reads in the program's own language: command-line help (English, like the
 // manual pages made from it), the self-test's report, the hours sentence that the English
-// parser reads back, decoding diagnostics, and the keyring item's label, which must stay
-// findable.
+// parser reads back, decoding diagnostics, the keyring item's label, which must stay
+// findable, the manual pages, and what the app answers on the session bus, which programs read.
 const QStringList untranslatedFiles{
-    u"src/app/shell/LaunchOptions.cpp"_s,   u"src/app/shell/SelfTest.cpp"_s, u"src/core/logic/WeekSentence.cpp"_s,
-    u"src/core/logic/NLAvailability.cpp"_s, u"src/core/records/"_s,          u"src/core/api/NetworkTransport.cpp"_s,
+    u"src/app/shell/LaunchOptions.cpp"_s,
+    u"src/app/shell/SelfTest.cpp"_s,
+    u"src/core/logic/WeekSentence.cpp"_s,
+    u"src/core/logic/NLAvailability.cpp"_s,
+    u"src/core/records/"_s,
+    u"src/core/api/NetworkTransport.cpp"_s,
     u"src/core/api/Keychain.h"_s,
+    u"src/core/logic/ManPage.cpp"_s,
+    u"src/platform/linux/DBusApplication.cpp"_s,
 };
 
 const QRegularExpression qmlTextProperty(
