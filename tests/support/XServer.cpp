@@ -50,7 +50,19 @@ bool XServer::xdotool(const QStringList &arguments, QByteArray *output) const
 
 bool XServer::shows(const QString &title) const
 {
-    return xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^"_s + QRegularExpression::escape(title) + u"$"_s});
+    // A window that closes while xdotool walks the tree makes the walk fail, whatever it has
+    // found; a found window is one it printed, and a failed walk is tried again.
+    const QStringList search{u"search"_s, u"--onlyvisible"_s, u"--name"_s,
+                             u"^"_s + QRegularExpression::escape(title) + u"$"_s};
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        QByteArray found;
+        const bool clean = xdotool(search, &found);
+        if (!found.trimmed().isEmpty())
+            return true;
+        if (clean)
+            return false;
+    }
+    return false;
 }
 
 } // namespace quorvane::test
