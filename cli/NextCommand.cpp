@@ -33,6 +33,7 @@ struct Next {
     bool saved = false;   // saved data, not the running app's fresh view
     bool running = false; // the running app answered
     Instant savedAt;
+    Saved::Counts counts;
 };
 
 Instant parsed(const QVariant &value)
@@ -54,6 +55,7 @@ Next fromApp(const QVariantMap &status)
     n.saved = status.value(u"Offline"_s).toBool();
     n.running = true;
     n.savedAt = parsed(status.value(u"SavedAt"_s));
+    n.counts = {status.value(u"TodayCount"_s).toInt(), status.value(u"UpcomingCount"_s).toInt()};
     return n;
 }
 
@@ -66,6 +68,7 @@ std::optional<Next> fromSaved(const Instant &now)
     Next n;
     n.saved = true;
     n.savedAt = snapshot->savedAt;
+    n.counts = Saved::counts(*snapshot, now);
     if (const std::optional<Booking> b = Saved::next(*snapshot, now)) {
         n.id = b->id;
         n.title = Saved::title(*snapshot, *b);
@@ -144,6 +147,7 @@ QJsonObject waybar(const std::optional<Next> &next, const Instant &now)
         tooltip.append(Saved::when(next->start, next->end, now));
         if (!next->joinLink.isEmpty())
             tooltip.append(next->joinLink);
+        tooltip.append(u"%1 today \u00b7 %2 upcoming"_s.arg(next->counts.today).arg(next->counts.upcoming));
     }
     if (next && next->saved)
         tooltip.append(Saved::savedLine(next->savedAt));
@@ -152,10 +156,9 @@ QJsonObject waybar(const std::optional<Next> &next, const Instant &now)
 
 QJsonObject json(const std::optional<Next> &next, const Instant &now)
 {
-    QJsonObject out{{u"signedIn"_s, next && next->signedIn},
-                    {u"saved"_s, !next || next->saved},
-                    {u"running"_s, next && next->running},
-                    {u"class"_s, statusClass(next, now)}};
+    QJsonObject out{{u"signedIn"_s, next && next->signedIn},     {u"saved"_s, !next || next->saved},
+                    {u"running"_s, next && next->running},       {u"class"_s, statusClass(next, now)},
+                    {u"today"_s, next ? next->counts.today : 0}, {u"upcoming"_s, next ? next->counts.upcoming : 0}};
     if (next && next->savedAt.isValid() && next->savedAt > distantPast())
         out.insert(u"savedAt"_s, ISO::secondsString(next->savedAt));
     if (next && !next->id.isEmpty()) {
@@ -234,8 +237,9 @@ QList<QCommandLineOption> options()
     return {jsonOption(),
             QCommandLineOption(u"waybar"_s, u"Print the status bar's JSON: text, tooltip, class (now, soon, later, "
                                             "none or offline) and alt."_s),
-            QCommandLineOption(u"follow"_s, u"Keep running and print a new line whenever the next meeting or its "
-                                            "countdown changes, for a status bar's continuous mode."_s)};
+            QCommandLineOption(u"follow"_s,
+                               u"Keep running and print a new line whenever the next meeting, its "
+                               "countdown or the count of meetings changes, for a status bar's continuous mode."_s)};
 }
 
 int run(const QStringList &arguments)

@@ -61,6 +61,20 @@ QList<Booking> onDays(const Snapshot &snapshot, const Instant &now, int days)
     return out;
 }
 
+Counts counts(const Snapshot &snapshot, const Instant &now)
+{
+    const QDate today = localDate(now);
+    Counts c;
+    for (const Booking &b : snapshot.upcoming) {
+        if (!b.isActive() || b.end <= now)
+            continue;
+        ++c.upcoming;
+        if (localDate(b.start) == today)
+            ++c.today;
+    }
+    return c;
+}
+
 QString title(const Snapshot &snapshot, const Booking &booking)
 {
     if (snapshot.settings) {

@@ -19,6 +19,12 @@ namespace quorvane::cli::Saved {
 // Active bookings starting on the `days` calendar days from today, by start; each once, the
 // upcoming list having the last word.
 [[nodiscard]] QList<Booking> onDays(const Snapshot &snapshot, const Instant &now, int days);
+// The active meetings not yet over, today's and all, as the app's sidebar counts them.
+struct Counts {
+    int today = 0;
+    int upcoming = 0;
+};
+[[nodiscard]] Counts counts(const Snapshot &snapshot, const Instant &now);
 // The booking's event type name, "Meeting" for a type that is gone.
 [[nodiscard]] QString title(const Snapshot &snapshot, const Booking &booking);
 // The join link when it is one a browser should open.

@@ -47,11 +47,15 @@ class FakeApp : public QObject
     Q_PROPERTY(bool SignedIn MEMBER signedIn)
     Q_PROPERTY(bool Offline MEMBER offline)
     Q_PROPERTY(QString SavedAt MEMBER savedAt)
+    Q_PROPERTY(int TodayCount MEMBER todayCount)
+    Q_PROPERTY(int UpcomingCount MEMBER upcomingCount)
 
 public:
     QString nextId, nextTitle, nextGuest, nextStart, nextEnd, nextJoinLink, countdown, savedAt;
     bool signedIn = true;
     bool offline = false;
+    int todayCount = 0;
+    int upcomingCount = 0;
     QStringList actions; // "Activate" or the action's name, as they came
 
     // A meeting starting `minutes` from now, as the tray would count it.
@@ -283,6 +287,7 @@ private Q_SLOTS:
         const Run json = run({u"next"_s, u"--json"_s});
         QCOMPARE(json.json().value(u"next"_s).toObject().value(u"id"_s).toString(), u"next"_s);
         QCOMPARE(json.json().value(u"saved"_s).toBool(), true);
+        QCOMPARE(json.json().value(u"upcoming"_s).toInt(), 2);
         QVERIFY(run({u"next"_s}).out.contains(u"(saved data from"_s));
     }
 
@@ -337,6 +342,10 @@ private Q_SLOTS:
         const QJsonObject changed = line();
         QCOMPARE(changed.value(u"text"_s).toString(), u"Ben in 5m"_s);
         QCOMPARE(changed.value(u"class"_s).toString(), u"soon"_s);
+        // A guest books a later day: only the count changes, and that is a line too.
+        app->upcomingCount = 4;
+        app->announce(appConnection, {{u"UpcomingCount"_s, 4}});
+        QVERIFY(line().value(u"tooltip"_s).toString().contains(u"4 upcoming"_s));
         stopApp();
         QCOMPARE(line().value(u"class"_s).toString(), u"offline"_s);
         process.kill();

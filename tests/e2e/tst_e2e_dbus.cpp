@@ -41,7 +41,7 @@ public:
     QVariantMap state{{u"NextId"_s, QString()},    {u"NextTitle"_s, QString()}, {u"NextGuest"_s, QString()},
                       {u"NextStart"_s, QString()}, {u"NextEnd"_s, QString()},   {u"NextJoinLink"_s, QString()},
                       {u"Countdown"_s, QString()}, {u"SignedIn"_s, false},      {u"Offline"_s, false},
-                      {u"SavedAt"_s, QString()}};
+                      {u"SavedAt"_s, QString()},   {u"TodayCount"_s, 0},        {u"UpcomingCount"_s, 0}};
     QStringList repeats; // values announced without having changed
 
 public Q_SLOTS:

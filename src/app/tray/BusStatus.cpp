@@ -15,6 +15,8 @@ DBusApplication::Status of(const AppModel &model)
     status.offline = model.offline();
     if (model.snapshot().savedAt > distantPast())
         status.savedAt = ISO::secondsString(model.snapshot().savedAt);
+    status.todayCount = int(model.today().size());
+    status.upcomingCount = int(model.upcoming().size());
     const std::optional<Booking> next = model.next();
     if (!next)
         return status;

@@ -87,6 +87,8 @@ class StatusAdaptor : public QDBusAbstractAdaptor
     Q_PROPERTY(bool SignedIn READ signedIn)
     Q_PROPERTY(bool Offline READ offline)
     Q_PROPERTY(QString SavedAt READ savedAt)
+    Q_PROPERTY(int TodayCount READ todayCount)
+    Q_PROPERTY(int UpcomingCount READ upcomingCount)
 
 public:
     explicit StatusAdaptor(DBusApplication *app)
@@ -104,6 +106,8 @@ public:
     [[nodiscard]] bool signedIn() const { return m_app->status().signedIn; }
     [[nodiscard]] bool offline() const { return m_app->status().offline; }
     [[nodiscard]] QString savedAt() const { return m_app->status().savedAt; }
+    [[nodiscard]] int todayCount() const { return m_app->status().todayCount; }
+    [[nodiscard]] int upcomingCount() const { return m_app->status().upcomingCount; }
 
 private:
     DBusApplication *m_app;
@@ -111,10 +115,10 @@ private:
 
 QVariantMap DBusApplication::Status::toMap() const
 {
-    return {{u"NextId"_s, nextId},       {u"NextTitle"_s, nextTitle}, {u"NextGuest"_s, nextGuest},
-            {u"NextStart"_s, nextStart}, {u"NextEnd"_s, nextEnd},     {u"NextJoinLink"_s, nextJoinLink},
-            {u"Countdown"_s, countdown}, {u"SignedIn"_s, signedIn},   {u"Offline"_s, offline},
-            {u"SavedAt"_s, savedAt}};
+    return {{u"NextId"_s, nextId},       {u"NextTitle"_s, nextTitle},   {u"NextGuest"_s, nextGuest},
+            {u"NextStart"_s, nextStart}, {u"NextEnd"_s, nextEnd},       {u"NextJoinLink"_s, nextJoinLink},
+            {u"Countdown"_s, countdown}, {u"SignedIn"_s, signedIn},     {u"Offline"_s, offline},
+            {u"SavedAt"_s, savedAt},     {u"TodayCount"_s, todayCount}, {u"UpcomingCount"_s, upcomingCount}};
 }
 
 DBusApplication::DBusApplication(QDBusConnection bus, QStringList actions, QObject *parent)

@@ -30,6 +30,9 @@ public:
         bool signedIn = false;
         bool offline = false;
         QString savedAt;
+        // The meetings still to come today and in all, as the sidebar counts them.
+        int todayCount = 0;
+        int upcomingCount = 0;
 
         // By the bus's property names.
         [[nodiscard]] QVariantMap toMap() const;

@@ -77,6 +77,16 @@ private Q_SLOTS:
         QTRY_VERIFY(bar.changes.size() > seen);
         QCOMPARE(bar.changes.at(seen), (QVariantMap{{u"Countdown"_s, u"in 24m"_s}}));
 
+        // A guest books a later day: the next meeting stays, the counts tell the news.
+        QCOMPARE(bar.state.value(u"UpcomingCount"_s), QVariant(1));
+        const qsizetype before = bar.changes.size();
+        rig.guestBooks(u"Ben Roe"_s, rig.clock.now().addDays(2).addSecs(2 * 3600));
+        QCoro::waitFor(model->refresh());
+        QTRY_COMPARE(bar.state.value(u"UpcomingCount"_s), QVariant(2));
+        QCOMPARE(bar.state.value(u"TodayCount"_s), QVariant(1));
+        for (const QVariantMap &change : bar.changes.mid(before))
+            QVERIFY(!change.contains(u"NextId"_s));
+
         // Signed out, nothing is left to show.
         model->signOut();
         QTRY_COMPARE(bar.state.value(u"SignedIn"_s), QVariant(false));
