@@ -1,7 +1,7 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Quorvane.App
 import Quorvane.Components
 
@@ -48,26 +48,75 @@ MenuBar {
         }
     }
 
-    // A menu of command actions and separators, made on first opening.
-    component CommandMenu: Menu {
+    // A menu of command actions and separators. Its items, and the column and frame that show
+    // them, are made the first time it opens: three ready-made menus would cost the window's
+    // first frame as much as everything else in the bar.
+    component CommandMenu: T.Menu {
         id: menu
 
         property list<QtObject> entries
         property bool made: false
 
+        implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                                implicitContentWidth + leftPadding + rightPadding)
+        implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
+                                 implicitContentHeight + topPadding + bottomPadding)
+        padding: 1
         delegate: Component { KeyedItem {} }
         onAboutToShow: {
             if (made)
                 return
             made = true
+            contentItem = root.part(menuList, { menu: menu })
+            background = root.part(menuFrame, { menu: menu })
             for (let i = 0; i < entries.length; ++i) {
                 const entry = entries[i]
                 if (entry === separator)
-                    addItem(separatorItem.createObject(null) as MenuSeparator)
+                    addItem(root.part(separatorItem, {}) as MenuSeparator)
                 else if (entry.command.available)
                     addAction(entry as Action)
             }
         }
+    }
+    Component {
+        id: menuList
+        ListView {
+            required property T.Menu menu
+            implicitHeight: contentHeight
+            model: menu.contentModel
+            currentIndex: menu.currentIndex
+            interactive: false
+        }
+    }
+    Component {
+        id: menuFrame
+        Item {
+            id: frame
+            required property T.Menu menu
+            implicitWidth: 200
+            implicitHeight: 20
+            // A one-pixel shadow down and to the right, under the frame.
+            Rectangle {
+                anchors.fill: parent
+                anchors.topMargin: 1
+                anchors.leftMargin: 1
+                anchors.bottomMargin: -1
+                anchors.rightMargin: -1
+                color: Style.withAlpha(frame.menu.palette.shadow, 0.2)
+            }
+            Rectangle {
+                anchors.fill: parent
+                color: frame.menu.palette.base
+                border.color: Style.windowEdge(frame.menu.palette.window)
+            }
+        }
+    }
+    // A part of a menu: owned by the bar, so that it lives as long as the menu, and without a
+    // parent item, which the menu takes it into as it is given.
+    function part(component: Component, properties: var): Item {
+        const made = component.createObject(root, properties) as Item
+        made.parent = null
+        return made
     }
     QtObject { id: separator }
     Component { id: separatorItem; MenuSeparator {} }
