@@ -123,13 +123,14 @@ int main(int argc, char *argv[])
     }
 
     // A start does several slow things that don't need each other, so they run side by side:
-    // the saved data is decoded, the locale's date patterns and the font database are worked
-    // out, and the system bus is reached, each on a thread of its own, while the QML engine
-    // compiles the first window on its loader thread and the main thread makes the services.
+    // the saved data is decoded and sorted, the locale's date patterns and the font database
+    // are worked out, and the system bus is reached, each on a thread of its own, while the QML
+    // engine compiles the first window on its loader thread and the main thread makes the
+    // services.
     const QString dataDirectory = DataPaths::defaultDirectory();
-    std::shared_future<std::optional<Snapshot>> saved =
+    std::shared_future<std::optional<SavedData>> saved =
         std::async(std::launch::async, [path = AppModel::cachePath(dataDirectory)] {
-            return SnapshotCache(path).load();
+            return SavedData::of(SnapshotCache(path).load());
         }).share();
     const QString locale = QLocale::system().name();
     const std::future<void> patterns =
@@ -157,8 +158,9 @@ int main(int argc, char *argv[])
     engine->addImportPath(u"qrc:/qt/qml"_s);
     engine->addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
     const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
-    QmlPreload::start(*engine,
-                      {root, options.hidden ? QUrl() : QmlPreload::fileOf(ViewTable::section(AppSection::today))});
+    const QList<QUrl> firstWindow{root,
+                                  options.hidden ? QUrl() : QmlPreload::fileOf(ViewTable::section(AppSection::today))};
+    QmlPreload::start(*engine, firstWindow);
 
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Quorvane"_s, u"Quorvane"_s);
     Preferences preferences(settings);
@@ -185,11 +187,12 @@ int main(int argc, char *argv[])
     env.clipboard = &clipboard;
     env.wake = &wake;
     env.dataDirectory = dataDirectory;
-    env.savedSnapshot = saved;
+    env.savedData = saved;
     env.locale = locale;
     env.zone = zone;
     if (options.timings)
         env.timings = *options.timings;
+    QmlPreload::finish(*engine, firstWindow); // rather than wait for the saved data alone
     AppModel model(env);
     const std::unique_ptr<StateFile> stateFile =
         options.stateFile ? std::make_unique<StateFile>(model, *options.stateFile) : nullptr;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Snapshot.h"
+#include "model/BookingOrder.h"
 
 #include <QString>
 
@@ -40,9 +40,9 @@ struct AppEnvironment {
     Clipboard *clipboard = nullptr;
     WakeMonitor *wake = nullptr; // optional: no wake refresh without it
     QString dataDirectory;       // $XDG_DATA_HOME/Quorvane; never created by the model itself
-    // The saved snapshot, where the caller started reading it already (main.cpp does, so that
+    // The saved data, where the caller started reading it already (main.cpp does, so that
     // decoding it overlaps the rest of the start); without it the model reads the file itself.
-    std::shared_future<std::optional<Snapshot>> savedSnapshot;
+    std::shared_future<std::optional<SavedData>> savedData;
     QString locale; // ICU locale name, such as "en_US"
     QString zone;   // IANA zone of the user, such as "Europe/Berlin"
     Timings timings;

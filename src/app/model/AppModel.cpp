@@ -30,10 +30,6 @@ struct Text {
 
 const QString trackerFileName = u"changes-v2.json"_s;
 
-bool byStart(const Booking &a, const Booking &b)
-{
-    return a.start < b.start;
-}
 } // namespace
 
 AppModel::AppModel(AppEnvironment environment, QObject *parent)
@@ -46,8 +42,15 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
     Q_ASSERT(m_env.clock && m_env.transport && m_env.secrets && m_env.notifier && m_env.preferences && m_env.opener
              && m_env.clipboard);
     m_needsSignIn = !signedInNow();
-    m_snapshot = (m_env.savedSnapshot.valid() ? m_env.savedSnapshot.get() : m_cache.load()).value_or(Snapshot());
-    sortBookings();
+    if (m_env.savedData.valid()) {
+        if (const std::optional<SavedData> &saved = m_env.savedData.get()) {
+            m_snapshot = saved->snapshot;
+            m_order = saved->order;
+        }
+    } else {
+        m_snapshot = m_cache.load().value_or(Snapshot());
+        m_order = BookingOrder::of(m_snapshot);
+    }
 
     QFile trackerFile(trackerPath());
     if (trackerFile.open(QIODevice::ReadOnly)) {
@@ -89,7 +92,7 @@ void AppModel::run(QCoro::Task<> &&task)
 void AppModel::setSnapshot(Snapshot snapshot)
 {
     m_snapshot = std::move(snapshot);
-    sortBookings();
+    m_order = BookingOrder::of(m_snapshot);
     Q_EMIT snapshotChanged();
 }
 
@@ -207,37 +210,11 @@ QList<EventType> AppModel::activeTypes() const
     return out;
 }
 
-// The screens ask for these lists many times a minute; they are sorted once per snapshot, and
-// each ask for the upcoming one only drops what has ended by then.
-void AppModel::sortBookings()
-{
-    m_activeByStart.clear();
-    for (const Booking &b : std::as_const(m_snapshot.upcoming)) {
-        if (b.isActive())
-            m_activeByStart.append(b);
-    }
-    std::stable_sort(m_activeByStart.begin(), m_activeByStart.end(), byStart);
-
-    // Every booking once, newest first; a booking in both lists is taken from the upcoming one.
-    QSet<QString> seen;
-    m_allBookings.clear();
-    for (const QList<Booking> *list : {&m_snapshot.upcoming, &m_snapshot.history}) {
-        for (const Booking &b : *list) {
-            if (!seen.contains(b.id)) {
-                seen.insert(b.id);
-                m_allBookings.append(b);
-            }
-        }
-    }
-    std::stable_sort(m_allBookings.begin(), m_allBookings.end(),
-                     [](const Booking &a, const Booking &b) { return a.start > b.start; });
-}
-
 QList<Booking> AppModel::upcoming() const
 {
     const Instant at = now();
     QList<Booking> out;
-    for (const Booking &b : m_activeByStart) {
+    for (const Booking &b : m_order.activeByStart) {
         if (b.end > at)
             out.append(b);
     }
@@ -263,7 +240,7 @@ QList<Booking> AppModel::today() const
 std::optional<Booking> AppModel::next() const
 {
     const Instant at = now();
-    for (const Booking &b : m_activeByStart) {
+    for (const Booking &b : m_order.activeByStart) {
         if (b.end > at)
             return b;
     }
@@ -272,7 +249,7 @@ std::optional<Booking> AppModel::next() const
 
 QList<Booking> AppModel::allBookings() const
 {
-    return m_allBookings;
+    return m_order.all;
 }
 
 std::optional<Booking> AppModel::booking(const QString &id) const

@@ -194,7 +194,6 @@ private:
     [[nodiscard]] QString offlineMessage() const;
     void saveTracker() const;
     // Orders the new snapshot's bookings once, for the lists that read them at every redraw.
-    void sortBookings();
     [[nodiscard]] QString trackerPath() const;
 
     void setSnapshot(Snapshot snapshot);
@@ -232,8 +231,9 @@ private:
     quint64 m_saveGeneration = 0;
 
     Snapshot m_snapshot;
-    QList<Booking> m_activeByStart; // the snapshot's active upcoming bookings, by start
-    QList<Booking> m_allBookings;   // every booking of the snapshot once, newest first
+    // The screens ask for these lists many times a minute; they are sorted once per snapshot,
+    // and each ask for the upcoming one only drops what has ended by then.
+    BookingOrder m_order;
     std::optional<HostSettings> m_draftSettings;
     bool m_loading = false;
     bool m_firstLoadDone = false;

@@ -15,6 +15,16 @@ void start(QQmlEngine &engine, const QList<QUrl> &documents)
     }
 }
 
+void finish(QQmlEngine &engine, const QList<QUrl> &documents)
+{
+    // A synchronous request for a document on its way waits for it, answering the loader
+    // thread meanwhile; one that is ready returns at once.
+    for (const QUrl &url : documents) {
+        if (!url.isEmpty())
+            QQmlComponent(&engine, url, QQmlComponent::PreferSynchronous);
+    }
+}
+
 QUrl fileOf(const QmlType &type)
 {
     if (type.isNull())

@@ -14,6 +14,12 @@ namespace quorvane::QmlPreload {
 // or waits only for the rest. The work belongs to the engine and ends with it.
 void start(QQmlEngine &engine, const QList<QUrl> &documents);
 
+// Waits until those documents are compiled. The loader thread asks the main thread to set up
+// each module it imports and gets on only while the main thread attends to it, which a main
+// thread waiting here does: a start about to wait for other work (the saved data decoded on a
+// thread of its own) waits here first.
+void finish(QQmlEngine &engine, const QList<QUrl> &documents);
+
 // The file of a type of one of the app's modules, where the build puts it:
 // "Quorvane.Today" "TodayView" → qrc:/qt/qml/Quorvane/Today/TodayView.qml.
 [[nodiscard]] QUrl fileOf(const QmlType &type);
