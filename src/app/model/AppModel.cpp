@@ -14,7 +14,6 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
-#include <QSet>
 #include <QTimeZone>
 
 #include <algorithm>
@@ -42,14 +41,11 @@ AppModel::AppModel(AppEnvironment environment, QObject *parent)
     Q_ASSERT(m_env.clock && m_env.transport && m_env.secrets && m_env.notifier && m_env.preferences && m_env.opener
              && m_env.clipboard);
     m_needsSignIn = !signedInNow();
-    if (m_env.savedData.valid()) {
-        if (const std::optional<SavedData> &saved = m_env.savedData.get()) {
-            m_snapshot = saved->snapshot;
-            m_order = saved->order;
-        }
-    } else {
-        m_snapshot = m_cache.load().value_or(Snapshot());
-        m_order = BookingOrder::of(m_snapshot);
+    const std::optional<SavedData> saved =
+        m_env.savedData.valid() ? m_env.savedData.get() : SavedData::of(m_cache.load());
+    if (saved) {
+        m_snapshot = saved->snapshot;
+        m_order = saved->order;
     }
 
     QFile trackerFile(trackerPath());
