@@ -30,7 +30,7 @@ public:
         bool signedIn = false;
         bool offline = false;
         QString savedAt;
-        // The meetings still to come today and in all, as the sidebar counts them.
+        // The meetings not yet over, today's and all, as the sidebar counts them.
         int todayCount = 0;
         int upcomingCount = 0;
 
