@@ -12,49 +12,63 @@ Item {
     readonly property int springDuration: Motion.springDuration(0.5, 1.0)
     readonly property var springCurve: Motion.spring(0.5, 1.0)
 
-    implicitHeight: shown ? banner.implicitHeight + padding : 0
+    // The banner itself is made the first time one is shown (most starts never show one),
+    // and kept from then on.
+    readonly property Item banner: slot.item
+    // A banner there from the start is simply there; a later one slides in.
+    property bool started: false
+    Component.onCompleted: started = true
+
+    implicitHeight: shown && banner ? banner.implicitHeight + padding : 0
     clip: true
 
     Behavior on implicitHeight {
         NumberAnimation { duration: host.springDuration; easing: host.springCurve }
     }
 
-    BannerView {
-        id: banner
-        objectName: "banner"
+    Loader {
+        id: slot
+        active: host.shown || item !== null
         x: host.padding
         width: host.width - 2 * host.padding
-        y: host.shown ? host.padding : -height
-        opacity: host.shown ? 1 : 0
-        enabled: host.shown
-        visible: opacity > 0
-        onRetry: App.refreshNow()
-        onDismiss: App.dismissBanner()
+        sourceComponent: BannerView {
+            objectName: "banner"
+            // Made hidden and then shown, so that a first banner slides in like the others.
+            property bool shown: !host.started && host.shown
+            Component.onCompleted: shown = Qt.binding(() => host.shown)
+            width: parent.width
+            y: shown ? host.padding : -height
+            opacity: shown ? 1 : 0
+            enabled: shown
+            visible: opacity > 0
+            onRetry: App.refreshNow()
+            onDismiss: App.dismissBanner()
 
-        Behavior on y {
-            NumberAnimation { duration: host.springDuration; easing: host.springCurve }
-        }
-        Behavior on opacity {
-            NumberAnimation { duration: host.springDuration; easing: host.springCurve }
+            Behavior on y {
+                NumberAnimation { duration: host.springDuration; easing: host.springCurve }
+            }
+            Behavior on opacity {
+                NumberAnimation { duration: host.springDuration; easing: host.springCurve }
+            }
         }
     }
 
     Binding {
-        target: banner
+        target: host.banner
         property: "message"
         value: App.bannerMessage
         when: host.shown
         restoreMode: Binding.RestoreNone
     }
     Binding {
-        target: banner
+        target: host.banner
         property: "kind"
         value: App.bannerKind
         when: host.shown
         restoreMode: Binding.RestoreNone
     }
     Binding {
-        target: banner
+        target: host.banner
         property: "showRetry"
         value: App.bannerRetry
         when: host.shown

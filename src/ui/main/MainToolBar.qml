@@ -22,8 +22,10 @@ ToolBar {
     signal toggleSidebar()
 
     function focusSearch() {
-        searchField.forceActiveFocus()
-        searchField.selectAll()
+        if (!searchSlot.item)
+            return
+        searchSlot.item.forceActiveFocus()
+        searchSlot.item.selectAll()
     }
 
     RowLayout {
@@ -53,29 +55,33 @@ ToolBar {
             font.pixelSize: Typography.caption
             color: Style.secondary
         }
-        TextField {
-            id: searchField
-            objectName: "searchField"
+        // Made when a screen that takes a search first shows, and kept from then on.
+        Loader {
+            id: searchSlot
             Layout.preferredWidth: 220
             Layout.rightMargin: Style.spaceM
+            active: root.searchScreen !== null || item !== null
             visible: root.searchScreen !== null
-            placeholderText: root.searchScreen ? root.searchScreen.searchPrompt : ""
-            text: root.searchScreen ? root.searchScreen.query : ""
-            leftPadding: Style.spaceXL + 14
-            onTextEdited: root.searchScreen.query = text
-            Keys.onEscapePressed: {
-                text = ""
-                root.searchScreen.query = ""
-            }
-            Accessible.name: placeholderText
-            Accessible.role: Accessible.EditableText
+            sourceComponent: TextField {
+                objectName: "searchField"
+                placeholderText: root.searchScreen ? root.searchScreen.searchPrompt : ""
+                text: root.searchScreen ? root.searchScreen.query : ""
+                leftPadding: Style.spaceXL + 14
+                onTextEdited: root.searchScreen.query = text
+                Keys.onEscapePressed: {
+                    text = ""
+                    root.searchScreen.query = ""
+                }
+                Accessible.name: placeholderText
+                Accessible.role: Accessible.EditableText
 
-            Icon {
-                anchors.verticalCenter: parent.verticalCenter
-                x: Style.spaceM
-                name: "magnifyingglass"
-                size: 14
-                color: Style.secondary
+                Icon {
+                    anchors.verticalCenter: parent.verticalCenter
+                    x: Style.spaceM
+                    name: "magnifyingglass"
+                    size: 14
+                    color: Style.secondary
+                }
             }
         }
         SymbolButton {
