@@ -3,8 +3,30 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace quorvane {
+
+namespace {
+// The bookings by start, earliest or latest first, equal starts in their given order. Each
+// start is turned into a number once, and each booking moved once, however long the list.
+QList<Booking> byStart(QList<Booking> bookings, Qt::SortOrder order)
+{
+    std::vector<std::pair<qint64, qsizetype>> keys;
+    keys.reserve(size_t(bookings.size()));
+    for (qsizetype i = 0; i < bookings.size(); ++i)
+        keys.emplace_back(bookings.at(i).start.toMSecsSinceEpoch(), i);
+    std::stable_sort(keys.begin(), keys.end(), [order](const auto &a, const auto &b) {
+        return order == Qt::AscendingOrder ? a.first < b.first : a.first > b.first;
+    });
+    QList<Booking> sorted;
+    sorted.reserve(bookings.size());
+    for (const auto &[start, index] : keys)
+        sorted.append(std::move(bookings[index]));
+    return sorted;
+}
+} // namespace
 
 BookingOrder BookingOrder::of(const Snapshot &snapshot)
 {
@@ -13,8 +35,7 @@ BookingOrder BookingOrder::of(const Snapshot &snapshot)
         if (b.isActive())
             order.activeByStart.append(b);
     }
-    std::stable_sort(order.activeByStart.begin(), order.activeByStart.end(),
-                     [](const Booking &a, const Booking &b) { return a.start < b.start; });
+    order.activeByStart = byStart(std::move(order.activeByStart), Qt::AscendingOrder);
 
     // A booking in both lists is taken from the upcoming one.
     QSet<QString> seen;
@@ -26,8 +47,7 @@ BookingOrder BookingOrder::of(const Snapshot &snapshot)
             }
         }
     }
-    std::stable_sort(order.all.begin(), order.all.end(),
-                     [](const Booking &a, const Booking &b) { return a.start > b.start; });
+    order.all = byStart(std::move(order.all), Qt::DescendingOrder);
     return order;
 }
 
