@@ -16,6 +16,7 @@
 #include "linux/FreedesktopNotifier.h"
 #include "linux/LibsecretStore.h"
 #include "linux/Login1WakeMonitor.h"
+#include "linux/ThreadPriority.h"
 #include "model/AppModel.h"
 #include "model/Preferences.h"
 #include "onboarding/SetupServices.h"
@@ -43,6 +44,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QNetworkAccessManager>
 #include <QQmlApplicationEngine>
@@ -80,6 +82,7 @@ int main(int argc, char *argv[])
 {
     QElapsedTimer started;
     started.start();
+    bool starting = false; // rather than a --help or --version
     {
         // A later launch hands its window to the running one before it starts a desktop
         // application of its own, which alone costs more than the hand-over: a key bound to
@@ -88,6 +91,27 @@ int main(int argc, char *argv[])
         const LaunchOptions early = LaunchOptions::parse(QCoreApplication::arguments());
         if (!early.exitCode && !early.selfTest && Activation::forward(early.window))
             return 0;
+        starting = !early.exitCode;
+    }
+    // A start does several slow things that don't need each other, so they run side by side:
+    // the saved data is decoded and sorted and the locale's date patterns are worked out, each
+    // on a thread of its own, from here on; the font database is read and the system bus
+    // reached once the application exists. Meanwhile the QML engine compiles the first window
+    // on its loader thread and the main thread makes the services. The side threads give way
+    // to those two, which the first frame waits for first.
+    const QString dataDirectory = DataPaths::defaultDirectory();
+    const QString locale = QLocale::system().name();
+    std::shared_future<std::optional<SavedData>> saved;
+    std::future<void> patterns;
+    if (starting) {
+        saved = std::async(std::launch::async, [path = AppModel::cachePath(dataDirectory)] {
+                    ThreadPriority::lowerCurrent();
+                    return SavedData::of(SnapshotCache(path).load());
+                }).share();
+        patterns = std::async(std::launch::async, [locale] {
+            ThreadPriority::lowerCurrent();
+            (void)Formats::pattern(u"jmm"_s, locale);
+        });
     }
     QApplication app(argc, argv); // Qt Charts needs the widgets application
     QApplication::setApplicationName(u"Quorvane"_s);
@@ -122,22 +146,6 @@ int main(int argc, char *argv[])
         ::execv(QFile::encodeName(executable).constData(), argv);
     }
 
-    // A start does several slow things that don't need each other, so they run side by side:
-    // the saved data is decoded and sorted, the locale's date patterns and the font database
-    // are worked out, and the system bus is reached, each on a thread of its own, while the QML
-    // engine compiles the first window on its loader thread and the main thread makes the
-    // services.
-    const QString dataDirectory = DataPaths::defaultDirectory();
-    std::shared_future<std::optional<SavedData>> saved =
-        std::async(std::launch::async, [path = AppModel::cachePath(dataDirectory)] {
-            return SavedData::of(SnapshotCache(path).load());
-        }).share();
-    const QString locale = QLocale::system().name();
-    const std::future<void> patterns =
-        std::async(std::launch::async, [locale] { (void)Formats::pattern(u"jmm"_s, locale); });
-    const std::future<void> fonts = std::async(std::launch::async, [] { (void)QFontDatabase::families(); });
-    const std::future<void> systemBus = std::async(std::launch::async, [] { (void)QDBusConnection::systemBus(); });
-
     // Light or dark as the desktop prefers, from the first frame on and whenever it changes.
     Appearance appearance;
     appearance.follow(QDBusConnection::sessionBus(), 500);
@@ -155,12 +163,23 @@ int main(int argc, char *argv[])
     registerSingleton<CommandTable>("Commands", commandTable);
     registerSingleton<Updater>("Updates", updates);
     auto engine = std::make_unique<QQmlApplicationEngine>();
-    engine->addImportPath(u"qrc:/qt/qml"_s);
+    // Qt's modules first: every import of one would otherwise look for it among the app's own
+    // resources first, and each such look walks all of them.
+    engine->setImportPathList({QLibraryInfo::path(QLibraryInfo::QmlImportsPath), u"qrc:/qt/qml"_s});
     engine->addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
     const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
     const QList<QUrl> firstWindow{root,
                                   options.hidden ? QUrl() : QmlPreload::fileOf(ViewTable::section(AppSection::today))};
     QmlPreload::start(*engine, firstWindow);
+
+    const std::future<void> fonts = std::async(std::launch::async, [] {
+        ThreadPriority::lowerCurrent();
+        (void)QFontDatabase::families();
+    });
+    const std::future<void> systemBus = std::async(std::launch::async, [] {
+        ThreadPriority::lowerCurrent();
+        (void)QDBusConnection::systemBus();
+    });
 
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Quorvane"_s, u"Quorvane"_s);
     Preferences preferences(settings);
@@ -192,7 +211,9 @@ int main(int argc, char *argv[])
     env.zone = zone;
     if (options.timings)
         env.timings = *options.timings;
-    QmlPreload::finish(*engine, firstWindow); // rather than wait for the saved data alone
+    // Waits for the window's own documents, rather than for the saved data alone; Today's
+    // screen goes on compiling while the window is made, until the window asks for it.
+    QmlPreload::finish(*engine, {root});
     AppModel model(env);
     const std::unique_ptr<StateFile> stateFile =
         options.stateFile ? std::make_unique<StateFile>(model, *options.stateFile) : nullptr;
