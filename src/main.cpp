@@ -23,6 +23,7 @@
 #include "shell/Activation.h"
 #include "shell/AppWindow.h"
 #include "shell/CommandTable.h"
+#include "shell/FirstFrameFonts.h"
 #include "shell/LaunchOptions.h"
 #include "shell/QmlPreload.h"
 #include "shell/SelfTest.h"
@@ -55,6 +56,7 @@
 #include <QSysInfo>
 #include <QTimeZone>
 
+#include <chrono>
 #include <cstdio>
 #include <future>
 #include <memory>
@@ -211,9 +213,21 @@ int main(int argc, char *argv[])
     env.zone = zone;
     if (options.timings)
         env.timings = *options.timings;
-    // Waits for the window's own documents, rather than for the saved data alone; Today's
-    // screen goes on compiling while the window is made, until the window asks for it.
-    QmlPreload::finish(*engine, {root});
+    // Waits for the window's own documents, rather than for the saved data alone, looking up
+    // the first frame's fonts meanwhile; Today's screen goes on compiling while the window is
+    // made, until the window asks for it.
+    QList<QmlPreload::Chore> chores;
+    if (!options.hidden) {
+        for (const FirstFrameFonts::Style &style : FirstFrameFonts::styles()) {
+            chores.append([&fonts, style] {
+                if (fonts.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+                    return false; // the font database is still being read
+                FirstFrameFonts::load(style);
+                return true;
+            });
+        }
+    }
+    QmlPreload::finish(*engine, {root}, chores);
     AppModel model(env);
     const std::unique_ptr<StateFile> stateFile =
         options.stateFile ? std::make_unique<StateFile>(model, *options.stateFile) : nullptr;

@@ -1,7 +1,11 @@
 #include "shell/QmlPreload.h"
 
+#include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
+
+#include <chrono>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -15,8 +19,16 @@ void start(QQmlEngine &engine, const QList<QUrl> &documents)
     }
 }
 
-void finish(QQmlEngine &engine, const QList<QUrl> &documents)
+void finish(QQmlEngine &engine, const QList<QUrl> &documents, const QList<Chore> &chores)
 {
+    for (qsizetype next = 0; next < chores.size();) {
+        // The loader thread's requests come to the main thread as posted events of this type.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::User);
+        if (chores.at(next)())
+            ++next;
+        else
+            std::this_thread::sleep_for(std::chrono::microseconds(200));
+    }
     // A synchronous request for a document on its way waits for it, answering the loader
     // thread meanwhile; one that is ready returns at once.
     for (const QUrl &url : documents) {

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QUrl>
 
+#include <functional>
+
 class QQmlEngine;
 
 namespace quorvane::QmlPreload {
@@ -14,11 +16,16 @@ namespace quorvane::QmlPreload {
 // or waits only for the rest. The work belongs to the engine and ends with it.
 void start(QQmlEngine &engine, const QList<QUrl> &documents);
 
-// Waits until those documents are compiled. The loader thread asks the main thread to set up
-// each module it imports and gets on only while the main thread attends to it, which a main
-// thread waiting here does: a start about to wait for other work (the saved data decoded on a
-// thread of its own) waits here first.
-void finish(QQmlEngine &engine, const QList<QUrl> &documents);
+// A piece of work for the main thread while it waits: true when done, false when it can't be
+// done yet (it is asked again a moment later).
+using Chore = std::function<bool()>;
+
+// Does the chores, one at a time, then waits until those documents are compiled. The loader
+// thread asks the main thread to set up each module it imports and gets on only while the
+// main thread attends to it, which it does here between chores and while waiting: a start
+// about to wait for other work (the saved data decoded on a thread of its own) waits here
+// first. Each chore should take a moment only.
+void finish(QQmlEngine &engine, const QList<QUrl> &documents, const QList<Chore> &chores = {});
 
 // The file of a type of one of the app's modules, where the build puts it:
 // "Quorvane.Today" "TodayView" → qrc:/qt/qml/Quorvane/Today/TodayView.qml.

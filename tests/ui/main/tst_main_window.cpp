@@ -2,6 +2,7 @@
 // that call for it, and clicks and keys reach the model.
 #include "FixtureApp.h"
 #include "Keychain.h"
+#include "shell/FirstFrameFonts.h"
 #include "ui/components/ItemLookup.h"
 
 #include <QQuickStyle>
@@ -103,6 +104,33 @@ private Q_SLOTS:
 
     // A row picks its section, by click or arrow keys; deselecting the current one keeps it.
     // A share link row copies its link; the heading goes when no type is active.
+    // A start looks up the fonts of the first frame before it is drawn; every text style that
+    // Today shows on opening has to be among them, or the start pays for it again.
+    void firstFrameFonts()
+    {
+        WindowRig rig(FixtureApp::State::withData);
+        QVERIFY_READY(rig);
+        const QList<FirstFrameFonts::Style> listed = FirstFrameFonts::styles();
+        QList<QQuickItem *> items{rig.window->contentItem()};
+        int texts = 0;
+        while (!items.isEmpty()) {
+            QQuickItem *item = items.takeLast();
+            if (!item->isVisible())
+                continue;
+            items.append(item->childItems());
+            if (!item->inherits("QQuickText"))
+                continue;
+            ++texts;
+            const QFont font = item->property("font").value<QFont>();
+            const FirstFrameFonts::Style style{font.pixelSize() > 0 ? font.pixelSize() : 0, font.weight()};
+            QVERIFY2(
+                listed.contains(style),
+                qPrintable(
+                    u"%1: %2 px, weight %3"_s.arg(item->objectName()).arg(font.pixelSize()).arg(int(font.weight()))));
+        }
+        QVERIFY(texts > 10);
+    }
+
     void sidebar()
     {
         WindowRig rig(FixtureApp::State::withData);
