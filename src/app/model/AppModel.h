@@ -193,7 +193,6 @@ private:
     [[nodiscard]] bool signedInNow() const { return m_keychain.token().has_value(); }
     [[nodiscard]] QString offlineMessage() const;
     void saveTracker() const;
-    // Orders the new snapshot's bookings once, for the lists that read them at every redraw.
     [[nodiscard]] QString trackerPath() const;
 
     void setSnapshot(Snapshot snapshot);

@@ -10,13 +10,15 @@ QList<Style> styles()
     // Sizes as Typography names them: caption2 10, caption 11, callout 12, headline and body
     // 13, title3 16, title 22.
     return {
-        {0, QFont::Normal},  {0, QFont::DemiBold},  {10, QFont::Normal},   {11, QFont::Normal},
-        {12, QFont::Normal}, {11, QFont::DemiBold}, {12, QFont::DemiBold}, {13, QFont::DemiBold},
-        {16, QFont::DemiBold}, {22, QFont::DemiBold}, {10, QFont::Bold},   {11, QFont::Bold},
-        {13, QFont::Bold},   {16, QFont::Bold},
+        {0, QFont::Normal},    {0, QFont::DemiBold},  {10, QFont::Normal},   {11, QFont::Normal},
+        {12, QFont::Normal},   {11, QFont::DemiBold}, {12, QFont::DemiBold}, {13, QFont::DemiBold},
+        {16, QFont::DemiBold}, {22, QFont::DemiBold}, {10, QFont::Bold},     {11, QFont::Bold},
+        {13, QFont::Bold},     {16, QFont::Bold},
     };
 }
 
+namespace {
+// The application's font in that style.
 QFont font(const Style &style)
 {
     QFont font = QGuiApplication::font();
@@ -25,6 +27,7 @@ QFont font(const Style &style)
     font.setWeight(style.weight);
     return font;
 }
+} // namespace
 
 void load(const Style &style)
 {

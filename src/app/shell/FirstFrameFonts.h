@@ -19,9 +19,6 @@ struct Style {
 // missing here costs time, never looks.
 [[nodiscard]] QList<Style> styles();
 
-// The application's font in that style.
-[[nodiscard]] QFont font(const Style &style);
-
 // Looks the style's font up now, on the calling thread.
 void load(const Style &style);
 
