@@ -213,9 +213,10 @@ int main(int argc, char *argv[])
     env.zone = zone;
     if (options.timings)
         env.timings = *options.timings;
-    // Waits for the window's own documents, rather than for the saved data alone, looking up
-    // the first frame's fonts meanwhile; Today's screen goes on compiling while the window is
-    // made, until the window asks for it.
+    // While the loader compiles the first window, the main thread looks up the first frame's
+    // fonts and then makes the model, once the saved data is decoded; it waits for the
+    // window's own documents only after that. Today's screen goes on compiling while the
+    // window is made, until the window asks for it.
     QList<QmlPreload::Chore> chores;
     if (!options.hidden) {
         for (const FirstFrameFonts::Style &style : FirstFrameFonts::styles()) {
@@ -227,7 +228,9 @@ int main(int argc, char *argv[])
             });
         }
     }
-    QmlPreload::finish(*engine, {root}, chores);
+    chores.append(
+        [&saved] { return !saved.valid() || saved.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    QmlPreload::serve(chores);
     AppModel model(env);
     const std::unique_ptr<StateFile> stateFile =
         options.stateFile ? std::make_unique<StateFile>(model, *options.stateFile) : nullptr;
@@ -251,6 +254,7 @@ int main(int argc, char *argv[])
     setupServices = &setup;
     commandTable = &commands;
     updates = &updater;
+    QmlPreload::finish(*engine, {root});
     // The windows close before the objects they show go.
     const auto closeWindows = qScopeGuard([&engine] { engine.reset(); });
 

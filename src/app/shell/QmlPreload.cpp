@@ -19,7 +19,7 @@ void start(QQmlEngine &engine, const QList<QUrl> &documents)
     }
 }
 
-void finish(QQmlEngine &engine, const QList<QUrl> &documents, const QList<Chore> &chores)
+void serve(const QList<Chore> &chores)
 {
     for (qsizetype next = 0; next < chores.size();) {
         // The loader thread's requests come to the main thread as posted events of this type.
@@ -29,6 +29,10 @@ void finish(QQmlEngine &engine, const QList<QUrl> &documents, const QList<Chore>
         else
             std::this_thread::sleep_for(std::chrono::microseconds(200));
     }
+}
+
+void finish(QQmlEngine &engine, const QList<QUrl> &documents)
+{
     // A synchronous request for a document on its way waits for it, answering the loader
     // thread meanwhile; one that is ready returns at once.
     for (const QUrl &url : documents) {

@@ -20,12 +20,15 @@ void start(QQmlEngine &engine, const QList<QUrl> &documents);
 // done yet (it is asked again a moment later).
 using Chore = std::function<bool()>;
 
-// Does the chores, one at a time, then waits until those documents are compiled. The loader
-// thread asks the main thread to set up each module it imports and gets on only while the
-// main thread attends to it, which it does here between chores and while waiting: a start
-// about to wait for other work (the saved data decoded on a thread of its own) waits here
-// first. Each chore should take a moment only.
-void finish(QQmlEngine &engine, const QList<QUrl> &documents, const QList<Chore> &chores = {});
+// Does the chores, one at a time, answering the loader thread in between: it asks the main
+// thread to set up each module it imports and gets on only while the main thread attends to
+// it. A start about to wait for other work (the saved data decoded on a thread of its own)
+// waits here instead, as a chore that is done once that work is. Each chore should take a
+// moment only.
+void serve(const QList<Chore> &chores);
+
+// Waits until those documents are compiled, answering the loader thread meanwhile.
+void finish(QQmlEngine &engine, const QList<QUrl> &documents);
 
 // The file of a type of one of the app's modules, where the build puts it:
 // "Quorvane.Today" "TodayView" → qrc:/qt/qml/Quorvane/Today/TodayView.qml.
