@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Quorvane.App
 import Quorvane.Components
@@ -21,33 +20,6 @@ MenuBar {
         onTriggered: command.trigger()
     }
 
-    // A menu item with its key written at the right, as the desktop writes keys.
-    component KeyedItem: MenuItem {
-        id: item
-
-        readonly property string keys: action && action.command ? action.command.shortcutText : ""
-
-        contentItem: RowLayout {
-            spacing: Style.space4XL
-            opacity: item.enabled ? 1 : 0.45
-
-            Label {
-                Layout.fillWidth: true
-                text: item.text
-                textFormat: Text.PlainText
-                color: item.highlighted ? item.palette.highlightedText : item.palette.text
-            }
-            Label {
-                objectName: "keys"
-                visible: text.length > 0
-                text: item.keys
-                textFormat: Text.PlainText
-                color: item.highlighted ? item.palette.highlightedText : item.palette.text
-                opacity: 0.7
-            }
-        }
-    }
-
     // A menu of command actions and separators. Its items, and the column and frame that show
     // them, are made the first time it opens: three ready-made menus would cost the window's
     // first frame as much as everything else in the bar.
@@ -62,64 +34,32 @@ MenuBar {
         implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
                                  implicitContentHeight + topPadding + bottomPadding)
         padding: 1
-        delegate: Component { KeyedItem {} }
         onAboutToShow: {
             if (made)
                 return
             made = true
-            contentItem = root.part(menuList, { menu: menu })
-            background = root.part(menuFrame, { menu: menu })
+            const parts = root.menuParts()
+            delegate = parts.item
+            contentItem = parts.make(parts.list, { menu: menu })
+            background = parts.make(parts.frame, { menu: menu })
             for (let i = 0; i < entries.length; ++i) {
                 const entry = entries[i]
                 if (entry === separator)
-                    addItem(root.part(separatorItem, {}) as MenuSeparator)
+                    addItem(parts.make(parts.separator, {}))
                 else if (entry.command.available)
                     addAction(entry as Action)
             }
         }
     }
-    Component {
-        id: menuList
-        ListView {
-            required property T.Menu menu
-            implicitHeight: contentHeight
-            model: menu.contentModel
-            currentIndex: menu.currentIndex
-            interactive: false
-        }
-    }
-    Component {
-        id: menuFrame
-        Item {
-            id: frame
-            required property T.Menu menu
-            implicitWidth: 200
-            implicitHeight: 20
-            // A one-pixel shadow down and to the right, under the frame.
-            Rectangle {
-                anchors.fill: parent
-                anchors.topMargin: 1
-                anchors.leftMargin: 1
-                anchors.bottomMargin: -1
-                anchors.rightMargin: -1
-                color: Style.withAlpha(frame.menu.palette.shadow, 0.2)
-            }
-            Rectangle {
-                anchors.fill: parent
-                color: frame.menu.palette.base
-                border.color: Style.windowEdge(frame.menu.palette.window)
-            }
-        }
-    }
-    // A part of a menu: owned by the bar, so that it lives as long as the menu, and without a
-    // parent item, which the menu takes it into as it is given.
-    function part(component: Component, properties: var): Item {
-        const made = component.createObject(root, properties) as Item
-        made.parent = null
-        return made
+    // What the menus are made of, in a file of its own: it is compiled when a menu first opens
+    // rather than with the window.
+    property QtObject parts: null
+    function menuParts(): QtObject {
+        if (!parts)
+            parts = Qt.createComponent("MenuParts.qml").createObject(root, { owner: root })
+        return parts
     }
     QtObject { id: separator }
-    Component { id: separatorItem; MenuSeparator {} }
 
     CommandAction { id: shareTimes; command: Commands.get(CommandId.ShareTimes) }
     CommandAction { id: newPoll; command: Commands.get(CommandId.NewPoll) }

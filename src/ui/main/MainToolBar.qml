@@ -55,34 +55,21 @@ ToolBar {
             font.pixelSize: Typography.caption
             color: Style.secondary
         }
-        // Made when a screen that takes a search first shows, and kept from then on.
+        // Made when a screen that takes a search first shows, and kept from then on; a file of
+        // its own, so that it is compiled only then.
         Loader {
             id: searchSlot
             Layout.preferredWidth: 220
             Layout.rightMargin: Style.spaceM
             active: root.searchScreen !== null || item !== null
             visible: root.searchScreen !== null
-            sourceComponent: TextField {
-                objectName: "searchField"
-                placeholderText: root.searchScreen ? root.searchScreen.searchPrompt : ""
-                text: root.searchScreen ? root.searchScreen.query : ""
-                leftPadding: Style.spaceXL + 14
-                onTextEdited: root.searchScreen.query = text
-                Keys.onEscapePressed: {
-                    text = ""
-                    root.searchScreen.query = ""
-                }
-                Accessible.name: placeholderText
-                Accessible.role: Accessible.EditableText
-
-                Icon {
-                    anchors.verticalCenter: parent.verticalCenter
-                    x: Style.spaceM
-                    name: "magnifyingglass"
-                    size: 14
-                    color: Style.secondary
-                }
-            }
+            source: "SearchField.qml"
+        }
+        Binding {
+            target: searchSlot.item
+            property: "screen"
+            value: root.searchScreen
+            when: searchSlot.item !== null
         }
         SymbolButton {
             objectName: "quickShareButton"
@@ -115,15 +102,10 @@ ToolBar {
             ToolTip.delay: 600
             ToolTip.text: qsTr("Refresh (%1)").arg(root.refreshCommand.shortcutText)
 
-            BusyIndicator {
-                objectName: "refreshBusy"
+            Loader {
                 anchors.centerIn: parent
-                width: 18
-                height: 18
-                padding: 0
-                // Spins only where it can be seen: a hidden window costs no CPU.
-                running: App.loading && root.Window.window !== null && root.Window.window.visible
-                visible: App.loading
+                active: App.loading
+                source: "RefreshSpinner.qml"
             }
             // The spinner stands in for the symbol while a refresh runs.
             icon.source: App.loading ? "" : Style.icon("arrow.clockwise", palette.buttonText)
