@@ -78,6 +78,12 @@ void registerSingleton(const char *name, T *const &object)
         return object;
     });
 }
+// Whether the work behind `future` is done, without waiting for it.
+template <typename Future>
+bool isReady(const Future &future)
+{
+    return future.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
 } // namespace
 
 int main(int argc, char *argv[])
@@ -191,7 +197,7 @@ int main(int argc, char *argv[])
     QNetworkAccessManager network;
     LibsecretStore secrets;
     const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
-    systemBus.wait();
+    QmlPreload::serve({[&systemBus] { return isReady(systemBus); }}); // answering the loader meanwhile
     FreedesktopNotifier notifier(QDBusConnection::sessionBus(), clock, locale, zone);
     Login1WakeMonitor wake(QDBusConnection::systemBus());
     UrlOpener opener;
@@ -221,15 +227,14 @@ int main(int argc, char *argv[])
     if (!options.hidden) {
         for (const FirstFrameFonts::Style &style : FirstFrameFonts::styles()) {
             chores.append([&fonts, style] {
-                if (fonts.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+                if (!isReady(fonts))
                     return false; // the font database is still being read
                 FirstFrameFonts::load(style);
                 return true;
             });
         }
     }
-    chores.append(
-        [&saved] { return !saved.valid() || saved.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    chores.append([&saved] { return !saved.valid() || isReady(saved); });
     QmlPreload::serve(chores);
     AppModel model(env);
     const std::unique_ptr<StateFile> stateFile =
