@@ -1,6 +1,10 @@
 #include "shell/QmlPreload.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QLibraryInfo>
+#include <QPluginLoader>
 #include <QQmlComponent>
 #include <QQmlEngine>
 
@@ -38,6 +42,27 @@ void finish(QQmlEngine &engine, const QList<QUrl> &documents)
     for (const QUrl &url : documents) {
         if (!url.isEmpty())
             QQmlComponent(&engine, url, QQmlComponent::PreferSynchronous);
+    }
+}
+
+void loadPlugins(const QStringList &modules)
+{
+    const QDir imports(QLibraryInfo::path(QLibraryInfo::QmlImportsPath));
+    for (const QString &module : modules) {
+        const QDir directory(imports.filePath(QString(module).replace(u'.', u'/')));
+        QFile qmldir(directory.filePath(u"qmldir"_s));
+        if (!qmldir.open(QIODevice::ReadOnly | QIODevice::Text))
+            continue;
+        // "plugin <name>" or "optional plugin <name>"
+        while (!qmldir.atEnd()) {
+            const QList<QByteArray> words = qmldir.readLine().simplified().split(' ');
+            const qsizetype at = words.indexOf("plugin");
+            if (at < 0 || at + 1 >= words.size())
+                continue;
+            // Loaded and kept: only the loader's own use makes the plugin's object.
+            QPluginLoader(directory.filePath(u"lib%1.so"_s.arg(QString::fromUtf8(words.at(at + 1))))).load();
+            break;
+        }
     }
 }
 

@@ -3,6 +3,7 @@
 #include "shell/QmlType.h"
 
 #include <QList>
+#include <QStringList>
 #include <QUrl>
 
 #include <functional>
@@ -29,6 +30,12 @@ void serve(const QList<Chore> &chores);
 
 // Waits until those documents are compiled, answering the loader thread meanwhile.
 void finish(QQmlEngine &engine, const QList<QUrl> &documents);
+
+// Loads the plugins of those Qt modules (by URI, "QtQuick.Controls"), and the libraries they
+// stand on, into the process, on the calling thread, so that a side thread can do it while the
+// engine's loader works on something else; the loader then finds them loaded. A module without a
+// plugin, or one that doesn't load, is left to the loader.
+void loadPlugins(const QStringList &modules);
 
 // The file of a type of one of the app's modules, where the build puts it:
 // "Quorvane.Today" "TodayView" → qrc:/qt/qml/Quorvane/Today/TodayView.qml.

@@ -1,0 +1,48 @@
+#include "shell/QmlPreload.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QTest>
+
+#include <future>
+
+using namespace Qt::StringLiterals;
+using namespace quorvane;
+
+namespace {
+bool mapped(const QByteArray &library)
+{
+    QFile maps(u"/proc/self/maps"_s);
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(library);
+}
+} // namespace
+
+class TestQmlPreload : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Plugins loaded on a side thread are the ones the engine then uses: its types work, made
+    // on the main thread, and a module that doesn't exist is passed over.
+    void pluginsLoadedAside()
+    {
+        QVERIFY(!mapped("libqquicklayoutsplugin.so"));
+        std::async(std::launch::async, [] {
+            QmlPreload::loadPlugins({u"No.Such.Module"_s, u"QtQuick.Layouts"_s});
+        }).wait();
+        QVERIFY(mapped("libqquicklayoutsplugin.so"));
+
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport QtQuick.Layouts\nRowLayout { Item { Layout.fillWidth: true } }",
+                          QUrl(u"file:///preload.qml"_s));
+        const std::unique_ptr<QObject> made(component.create());
+        QVERIFY2(made, qPrintable(component.errorString()));
+        QCOMPARE(made->thread(), QThread::currentThread());
+    }
+};
+
+QTEST_MAIN(TestQmlPreload)
+#include "tst_qml_preload.moc"
