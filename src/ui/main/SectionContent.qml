@@ -30,8 +30,13 @@ Item {
         }
     }
 
-    // A new section fades in quickly rather than snapping.
-    onSectionChanged: fadeIn.restart()
+    // A new section fades in quickly rather than snapping; the first one is simply there.
+    property bool shown: false
+    Component.onCompleted: shown = true
+    onSectionChanged: {
+        if (shown)
+            fadeIn.restart()
+    }
     NumberAnimation {
         id: fadeIn
         target: root
