@@ -78,6 +78,16 @@ void registerSingleton(const char *name, T *const &object)
         return object;
     });
 }
+// The Qt Quick modules that the first window imports, Fusion's among them, in the order the
+// engine asks for them.
+QStringList firstWindowModules()
+{
+    return {u"QtQml.WorkerScript"_s,      u"QtQuick.Controls"_s,
+            u"QtQuick.Controls.Fusion"_s, u"QtQuick.Controls.Basic"_s,
+            u"QtQuick.Controls.impl"_s,   u"QtQuick.Layouts"_s,
+            u"QtQuick.Templates"_s,       u"QtQuick.Controls.Fusion.impl"_s,
+            u"QtQuick.Window"_s};
+}
 // Whether the work behind `future` is done, without waiting for it.
 template <typename Future>
 bool isReady(const Future &future)
@@ -103,10 +113,10 @@ int main(int argc, char *argv[])
     }
     // A start does several slow things that don't need each other, so they run side by side:
     // the saved data is decoded and sorted and the locale's date patterns are worked out, each
-    // on a thread of its own, from here on; the font database is read and the system bus
-    // reached once the application exists. Meanwhile the QML engine compiles the first window
-    // on its loader thread and the main thread makes the services. The side threads give way
-    // to those two, which the first frame waits for first.
+    // on a thread of its own, from here on; the Qt Quick plugins are loaded, the font database
+    // read and the system bus reached once the application exists. Meanwhile the QML engine
+    // compiles the first window on its loader thread and the main thread makes the services.
+    // The side threads give way to those two, which the first frame waits for first.
     const QString dataDirectory = DataPaths::defaultDirectory();
     const QString locale = QLocale::system().name();
     std::shared_future<std::optional<SavedData>> saved;
@@ -122,6 +132,12 @@ int main(int argc, char *argv[])
         });
     }
     QApplication app(argc, argv); // Qt Charts needs the widgets application
+    // A plugin and the libraries below it take a while to load and link, which is done here
+    // before the engine gets to it (and after the application has loaded its own platform
+    // plugin, which would otherwise wait for these).
+    std::future<void> plugins;
+    if (starting)
+        plugins = std::async(std::launch::async, [] { QmlPreload::loadPlugins(firstWindowModules()); });
     QApplication::setApplicationName(u"Quorvane"_s);
     QApplication::setOrganizationName(u"Quorvane"_s);
     QApplication::setDesktopFileName(u"com.peldrachen.quorvane"_s);
@@ -135,9 +151,40 @@ int main(int argc, char *argv[])
         std::fprintf(*options.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(options.message));
         return *options.exitCode;
     }
-    // Otherwise this is the running instance, unless another became it meanwhile: the one that
-    // holds the bus name, or the local socket where there is no session bus. The self-test is
-    // always its own.
+    // The objects QML reaches by name, made further down: the engine asks for each the first
+    // time a window uses it, by which time it exists.
+    AppModel *appModel = nullptr;
+    ShellController *shellController = nullptr;
+    SetupServices *setupServices = nullptr;
+    CommandTable *commandTable = nullptr;
+    Updater *updates = nullptr;
+    registerSingleton<AppModel>("App", appModel);
+    registerSingleton<ShellController>("Shell", shellController);
+    registerSingleton<SetupServices>("Setup", setupServices);
+    registerSingleton<CommandTable>("Commands", commandTable);
+    registerSingleton<Updater>("Updates", updates);
+    auto engine = std::make_unique<QQmlApplicationEngine>();
+    // Qt's modules first: every import of one would otherwise look for it among the app's own
+    // resources first, and each such look walks all of them.
+    engine->setImportPathList({QLibraryInfo::path(QLibraryInfo::QmlImportsPath), u"qrc:/qt/qml"_s});
+    engine->addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
+    // The loader starts on the first window at once: whatever follows can be done meanwhile.
+    const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
+    const QList<QUrl> firstWindow{root,
+                                  options.hidden ? QUrl() : QmlPreload::fileOf(ViewTable::section(AppSection::today))};
+    QmlPreload::start(*engine, firstWindow);
+    const std::future<void> fonts = std::async(std::launch::async, [] {
+        ThreadPriority::lowerCurrent();
+        (void)QFontDatabase::families();
+    });
+    const std::future<void> systemBus = std::async(std::launch::async, [] {
+        ThreadPriority::lowerCurrent();
+        (void)QDBusConnection::systemBus();
+    });
+
+    // This is the running instance, unless another became it meanwhile: the one that holds the
+    // bus name, or the local socket where there is no session bus. The self-test is always its
+    // own.
     const bool onBus = QDBusConnection::sessionBus().isConnected();
     DBusApplication desktop(QDBusConnection::sessionBus(), Activation::names());
     SingleInstance instance(SingleInstance::defaultPath());
@@ -157,37 +204,6 @@ int main(int argc, char *argv[])
     // Light or dark as the desktop prefers, from the first frame on and whenever it changes.
     Appearance appearance;
     appearance.follow(QDBusConnection::sessionBus(), 500);
-
-    // The objects QML reaches by name, made further down: the engine asks for each the first
-    // time a window uses it, by which time it exists.
-    AppModel *appModel = nullptr;
-    ShellController *shellController = nullptr;
-    SetupServices *setupServices = nullptr;
-    CommandTable *commandTable = nullptr;
-    Updater *updates = nullptr;
-    registerSingleton<AppModel>("App", appModel);
-    registerSingleton<ShellController>("Shell", shellController);
-    registerSingleton<SetupServices>("Setup", setupServices);
-    registerSingleton<CommandTable>("Commands", commandTable);
-    registerSingleton<Updater>("Updates", updates);
-    auto engine = std::make_unique<QQmlApplicationEngine>();
-    // Qt's modules first: every import of one would otherwise look for it among the app's own
-    // resources first, and each such look walks all of them.
-    engine->setImportPathList({QLibraryInfo::path(QLibraryInfo::QmlImportsPath), u"qrc:/qt/qml"_s});
-    engine->addImageProvider(u"icon"_s, new IconProvider); // the engine owns it
-    const QUrl root(u"qrc:/qt/qml/Quorvane/Shell/Root.qml"_s);
-    const QList<QUrl> firstWindow{root,
-                                  options.hidden ? QUrl() : QmlPreload::fileOf(ViewTable::section(AppSection::today))};
-    QmlPreload::start(*engine, firstWindow);
-
-    const std::future<void> fonts = std::async(std::launch::async, [] {
-        ThreadPriority::lowerCurrent();
-        (void)QFontDatabase::families();
-    });
-    const std::future<void> systemBus = std::async(std::launch::async, [] {
-        ThreadPriority::lowerCurrent();
-        (void)QDBusConnection::systemBus();
-    });
 
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, u"Quorvane"_s, u"Quorvane"_s);
     Preferences preferences(settings);
