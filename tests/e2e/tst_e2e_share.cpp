@@ -28,13 +28,19 @@ struct Running {
         if (!process.waitForFinished(5000))
             process.kill();
     }
-    [[nodiscard]] bool up() const
+    [[nodiscard]] bool up()
     {
-        return QTest::qWaitFor(
+        const bool shown = QTest::qWaitFor(
             [this] {
                 return x.xdotool({u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"quorvane"_s});
             },
             15'000);
+        if (!shown) {
+            qWarning() << "the app's window did not come up; app state" << process.state() << "exit"
+                       << process.exitStatus() << process.exitCode();
+            qWarning().noquote() << process.readAllStandardError();
+        }
+        return shown;
     }
     const XServer &x;
     QProcess process;

@@ -16,7 +16,10 @@ XServer::XServer()
         }
     }
     // -displayfd 1: the server picks a free display and writes its number once ready.
-    m_x.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x800x24"_s, u"-nolisten"_s, u"tcp"_s});
+    // -noreset: by default the server resets whenever its last client leaves, and refuses
+    // whoever connects meanwhile; a test's clients come and go all the time.
+    m_x.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-screen"_s, u"0"_s, u"1280x800x24"_s,
+                          u"-nolisten"_s, u"tcp"_s});
     if (!m_x.waitForStarted() || !m_x.waitForReadyRead(10'000))
         m_missing = u"Xvfb did not start"_s;
     else
@@ -37,11 +40,11 @@ QProcessEnvironment XServer::environment() const
     return env;
 }
 
-bool XServer::xdotool(const QStringList &arguments, QByteArray *output) const
+bool XServer::run(const QString &program, const QStringList &arguments, QByteArray *output) const
 {
     QProcess tool;
     tool.setProcessEnvironment(environment());
-    tool.start(u"xdotool"_s, arguments);
+    tool.start(program, arguments);
     const bool done = tool.waitForFinished(5000) && tool.exitCode() == 0;
     if (output)
         *output = tool.readAllStandardOutput();

@@ -21,8 +21,12 @@ public:
     [[nodiscard]] const QString &display() const { return m_display; }
     // The environment of a program on this display.
     [[nodiscard]] QProcessEnvironment environment() const;
-    // Runs xdotool with these arguments; true when it succeeded. Its output goes to `output`.
-    bool xdotool(const QStringList &arguments, QByteArray *output = nullptr) const;
+    // Runs a program on this display; true when it succeeded. Its output goes to `output`.
+    bool run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr) const;
+    bool xdotool(const QStringList &arguments, QByteArray *output = nullptr) const
+    {
+        return run(QStringLiteral("xdotool"), arguments, output);
+    }
     // A key press, such as "ctrl+alt+super+s".
     bool press(const QString &keys) const { return xdotool({QStringLiteral("key"), keys}); }
     // A window with exactly this title is mapped.

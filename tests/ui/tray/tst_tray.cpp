@@ -1,6 +1,7 @@
 // The tray icon in a real tray host (trayer on an Xvfb of its own): it appears, its tooltip
 // counts down, and a click opens the popover beside it.
 #include "FixtureApp.h"
+#include "support/XServer.h"
 #include "tray/TrayController.h"
 #include "tray/TrayIcon.h"
 #include "ui/components/ItemLookup.h"
@@ -25,35 +26,21 @@ struct TrayDesk {
     // Empty once the server and the tray host run, else what is missing.
     QString start()
     {
-        for (const char *tool : {"Xvfb", "trayer", "xdotool", "xwininfo"}) {
+        if (!x.missing().isEmpty())
+            return x.missing();
+        for (const char *tool : {"trayer", "xwininfo"}) {
             if (QStandardPaths::findExecutable(QString::fromLatin1(tool)).isEmpty())
                 return QString::fromLatin1(tool) + u" is not installed (see scripts/debian-packages.txt)"_s;
         }
-        // -displayfd 1: the server picks a free display and writes its number when it is ready.
-        x.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x800x24"_s, u"-nolisten"_s, u"tcp"_s});
-        if (!x.waitForStarted() || !x.waitForReadyRead(10'000))
-            return u"Xvfb did not start"_s;
-        display = u":"_s + QString::fromLatin1(x.readAllStandardOutput().trimmed());
-        env.insert(u"DISPLAY"_s, display);
-        tray.setProcessEnvironment(env);
+        tray.setProcessEnvironment(x.environment());
         tray.start(u"trayer"_s, {u"--edge"_s, u"top"_s, u"--align"_s, u"right"_s, u"--widthtype"_s, u"request"_s,
                                  u"--height"_s, u"24"_s, u"--transparent"_s, u"false"_s});
         return tray.waitForStarted() ? QString() : u"trayer did not start"_s;
     }
     ~TrayDesk()
     {
-        for (QProcess *p : {&tray, &x}) {
-            p->terminate();
-            p->waitForFinished(3000);
-        }
-    }
-    QByteArray run(const QString &program, const QStringList &arguments) const
-    {
-        QProcess tool;
-        tool.setProcessEnvironment(env);
-        tool.start(program, arguments);
-        tool.waitForFinished(5000);
-        return tool.readAllStandardOutput();
+        tray.terminate();
+        tray.waitForFinished(3000);
     }
     // Where the server has put this application's window of that size, on the root: the tray
     // host reparents the icon, and only the server knows where it ended up. Lines read like
@@ -62,8 +49,9 @@ struct TrayDesk {
     {
         const QRegularExpression line(u"\\(\"%1\" \"%1\"\\)\\s+(\\d+)x(\\d+)\\S*\\s+\\+(-?\\d+)\\+(-?\\d+)"_s.arg(
             QCoreApplication::applicationName()));
-        for (const QRegularExpressionMatch &m :
-             line.globalMatch(QString::fromUtf8(run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s})))) {
+        QByteArray tree;
+        x.run(u"xwininfo"_s, {u"-root"_s, u"-tree"_s}, &tree);
+        for (const QRegularExpressionMatch &m : line.globalMatch(QString::fromUtf8(tree))) {
             const QRect r(m.captured(3).toInt(), m.captured(4).toInt(), m.captured(1).toInt(), m.captured(2).toInt());
             if (r.size() == size)
                 return r;
@@ -71,9 +59,9 @@ struct TrayDesk {
         return {};
     }
 
-    QProcess x, tray;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    QString display, missing;
+    XServer x;
+    QProcess tray;
+    QString missing;
 };
 
 TrayDesk *desk = nullptr;
@@ -111,8 +99,7 @@ private Q_SLOTS:
         // A real click through the X server, once the host has mapped the icon where it put it.
         QTest::qWait(300);
         const QPoint middle = icon.center();
-        desk->run(u"xdotool"_s,
-                  {u"mousemove"_s, QString::number(middle.x()), QString::number(middle.y()), u"click"_s, u"1"_s});
+        desk->x.xdotool({u"mousemove"_s, QString::number(middle.x()), QString::number(middle.y()), u"click"_s, u"1"_s});
         QTRY_VERIFY(tray.popover() && tray.popover()->isVisible());
         const QRect popover = tray.popover()->geometry();
         // Below the icon on this top panel, and reaching across it.
@@ -127,7 +114,7 @@ int main(int argc, char *argv[])
     TrayDesk xserver;
     desk = &xserver;
     if (xserver.missing.isEmpty()) {
-        qputenv("DISPLAY", xserver.display.toLocal8Bit());
+        qputenv("DISPLAY", xserver.x.display().toLocal8Bit());
         qputenv("QT_QPA_PLATFORM", "xcb");
         // The XEmbed tray of trayer, even where the session offers a D-Bus tray.
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
