@@ -32,7 +32,7 @@ namespace quorvane::bench {
 namespace {
 
 constexpr int graceMs = 300; // as the self-test waits after its first frame
-constexpr int runs = 5;
+constexpr int runs = 7;
 
 const QByteArray quickWindow = R"(
 import QtQuick
@@ -77,21 +77,30 @@ std::optional<Figures> runChild(const QString &program, const QStringList &argum
     return Figures{match.captured(1).toDouble(), match.captured(2).toDouble()};
 }
 
-// Medians over several starts: the first start of a program pays for a cold disk cache.
-std::optional<Figures> median(const std::function<std::optional<Figures>()> &start)
+// Medians over several starts of each program, taken in rounds: one start of each per round,
+// so that a slow minute on a shared machine falls on the floor and the app alike. The first
+// start of a program also pays for a cold disk cache, which the median leaves out.
+using Start = std::function<std::optional<Figures>()>;
+std::optional<std::vector<Figures>> medians(const std::vector<Start> &starts)
 {
-    std::vector<double> frames;
-    std::vector<double> memory;
-    for (int i = 0; i < runs; ++i) {
-        const std::optional<Figures> f = start();
-        if (!f)
-            return std::nullopt;
-        frames.push_back(f->frameMs);
-        memory.push_back(f->residentKiB);
+    std::vector<std::vector<double>> frames(starts.size());
+    std::vector<std::vector<double>> memory(starts.size());
+    for (int round = 0; round < runs; ++round) {
+        for (std::size_t i = 0; i < starts.size(); ++i) {
+            const std::optional<Figures> f = starts[i]();
+            if (!f)
+                return std::nullopt;
+            frames[i].push_back(f->frameMs);
+            memory[i].push_back(f->residentKiB);
+        }
     }
-    std::sort(frames.begin(), frames.end());
-    std::sort(memory.begin(), memory.end());
-    return Figures{frames[runs / 2], memory[runs / 2]};
+    std::vector<Figures> out;
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        std::sort(frames[i].begin(), frames[i].end());
+        std::sort(memory[i].begin(), memory[i].end());
+        out.push_back(Figures{frames[i][runs / 2], memory[i][runs / 2]});
+    }
+    return out;
 }
 
 // Folders of a user who has been through the welcome guide and has 2,000 bookings cached,
@@ -214,36 +223,41 @@ bool benchStartup(const QString &benchPath, const QString &appPath)
     QProcessEnvironment floorEnv = QProcessEnvironment::systemEnvironment();
     floorEnv.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
     const QRegularExpression floorLine(u"^(\\d+) (\\d+)"_s);
-    const auto quick = median([&] { return runChild(benchPath, {u"--floor"_s, u"quick"_s}, floorEnv, floorLine); });
-    const auto controls = median([&] {
-        return runChild(benchPath, {u"--floor"_s, u"controls"_s}, floorEnv, floorLine);
-    });
-
     QTemporaryDir home;
     const QProcessEnvironment env = appEnvironment(home.path());
     const QRegularExpression appLine(u"first frame after (\\d+) ms; resident (\\d+) KiB"_s);
-    const auto app = median([&] {
-        return runChild(appPath, {u"--self-test"_s, u"--server"_s, u"http://127.0.0.1:9"_s}, env, appLine);
-    });
     // Insights opened for the first time, from its switch to its first frame.
     const QRegularExpression openedLine(u"section opened in (\\d+) ms"_s);
-    const auto insights = median([&] {
-        return runChild(appPath, {u"--self-test-section"_s, u"insights"_s, u"--server"_s, u"http://127.0.0.1:9"_s}, env,
-                        openedLine);
+    const QStringList server{u"--server"_s, u"http://127.0.0.1:9"_s};
+    const std::optional<std::vector<Figures>> figures = medians({
+        [&] {
+            return runChild(benchPath, {u"--floor"_s, u"quick"_s}, floorEnv, floorLine);
+        },
+        [&] {
+            return runChild(benchPath, {u"--floor"_s, u"controls"_s}, floorEnv, floorLine);
+        },
+        [&] { return runChild(appPath, QStringList{u"--self-test"_s} + server, env, appLine); },
+        [&] {
+            return runChild(appPath, QStringList{u"--self-test-section"_s, u"insights"_s} + server, env, openedLine);
+        },
     });
-    if (!quick || !controls || !app || !insights) {
+    if (!figures) {
         std::fprintf(stderr, "start-up: a child process failed\n");
         return false;
     }
-    std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: bare Qt Quick window", quick->frameMs, quick->residentKiB / 1024);
-    std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: Controls and Charts window", controls->frameMs,
-                controls->residentKiB / 1024);
-    std::printf("%-44s %7.0f ms %7.0f MiB\n", "main window, 2,000 cached bookings", app->frameMs,
-                app->residentKiB / 1024);
-    std::printf("%-44s %7.0f ms\n", "Insights opened first, 2,000 bookings", insights->frameMs);
-    bool ok = report("first frame / Controls+Charts floor", app->frameMs / controls->frameMs, 1.5);
-    ok = report("Insights opening / Controls+Charts floor", insights->frameMs / controls->frameMs, 1.5) && ok;
-    ok = report("resident memory / Controls+Charts floor", app->residentKiB / controls->residentKiB, 1.5) && ok;
+    const Figures &quick = figures->at(0);
+    const Figures &controls = figures->at(1);
+    const Figures &app = figures->at(2);
+    const Figures &insights = figures->at(3);
+    std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: bare Qt Quick window", quick.frameMs, quick.residentKiB / 1024);
+    std::printf("%-44s %7.0f ms %7.0f MiB\n", "floor: Controls and Charts window", controls.frameMs,
+                controls.residentKiB / 1024);
+    std::printf("%-44s %7.0f ms %7.0f MiB\n", "main window, 2,000 cached bookings", app.frameMs,
+                app.residentKiB / 1024);
+    std::printf("%-44s %7.0f ms\n", "Insights opened first, 2,000 bookings", insights.frameMs);
+    bool ok = report("first frame / Controls+Charts floor", app.frameMs / controls.frameMs, 1.5);
+    ok = report("Insights opening / Controls+Charts floor", insights.frameMs / controls.frameMs, 1.5) && ok;
+    ok = report("resident memory / Controls+Charts floor", app.residentKiB / controls.residentKiB, 1.5) && ok;
 
     for (const bool hidden : {false, true}) {
         const std::optional<double> idle = idleCpu(appPath, env, hidden, hidden ? 60 : 10);
