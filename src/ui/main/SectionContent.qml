@@ -20,13 +20,14 @@ Item {
         active: root.screen !== null
     }
 
+    // By file name: the window's start doesn't compile what it seldom shows.
     Loader {
         anchors.fill: parent
         active: !screenLoader.active
-        sourceComponent: SectionPlaceholder {
-            objectName: "sectionPlaceholder"
-            title: root.frame.title
-            symbol: root.frame.symbol
+        source: active ? "SectionPlaceholder.qml" : ""
+        onLoaded: {
+            item.objectName = "sectionPlaceholder"
+            item.frame = root.frame
         }
     }
 
