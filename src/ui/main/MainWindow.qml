@@ -38,7 +38,9 @@ ApplicationWindow {
     SplitView {
         id: split
         anchors.fill: parent
-        orientation: Qt.Horizontal
+        // Side by side: a split view's own orientation (FocusPolicy says why the first frame names
+        // nothing of the Qt namespace).
+
         // A hairline between the columns, with a few pixels either side to grab.
         handle: Item {
             implicitWidth: 5

@@ -22,7 +22,7 @@ ItemDelegate {
 
     objectName: "sectionRow_" + sectionId
     highlighted: selected
-    focusPolicy: Qt.NoFocus
+    focusPolicy: FocusPolicy.NoFocus
     implicitHeight: 28
     leftPadding: Style.spaceM
     rightPadding: Style.spaceM

@@ -21,7 +21,7 @@ ItemDelegate {
     rightPadding: Style.spaceM
     topPadding: 0
     bottomPadding: 0
-    focusPolicy: Qt.NoFocus
+    focusPolicy: FocusPolicy.NoFocus
     onClicked: copy(index)
 
     ToolTip.visible: hovered

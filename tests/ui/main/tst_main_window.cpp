@@ -142,6 +142,8 @@ private Q_SLOTS:
         rig.click(u"sectionRow_bookings"_s, Qt::ControlModifier);
         QCOMPARE(rig.model().section(), AppSection::bookings);
         QVERIFY(rig.item(u"sectionRow_bookings"_s)->property("highlighted").toBool());
+        // A row takes no focus: the list keeps it, and with it the arrow keys.
+        QCOMPARE(rig.item(u"sectionRow_bookings"_s)->property("focusPolicy").toInt(), int(Qt::NoFocus));
         rig.key(Qt::Key_Down);
         QCOMPARE(rig.model().section(), AppSection::types);
         for (int i = 0; i < 3; ++i)
