@@ -1,9 +1,9 @@
 #include "components/IconProvider.h"
 
+#include "components/IconMask.h"
+#include "components/IconMasks.h"
 #include "components/Symbols.h"
 
-#include <QPainter>
-#include <QSvgRenderer>
 #include <QUrlQuery>
 
 using namespace Qt::StringLiterals;
@@ -62,21 +62,18 @@ QImage IconProvider::requestImage(const QString &id, QSize *size, const QSize &r
 
 QImage IconProvider::render(const QString &symbol, const QColor &color, const QSize &size)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    const QString path = Symbols::file(symbol);
-    if (path.isEmpty())
-        return image;
-    QSvgRenderer renderer(path);
-    if (!renderer.isValid())
-        return image;
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
-    // Keep the drawn shape's coverage, take the colour from the tint.
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(image.rect(), color);
-    return image;
+    const QString stem = Symbols::stem(symbol);
+    if (!stem.isEmpty() && size.width() == size.height()) {
+        if (const uchar *coverage = IconMasks::find(stem, size.width()))
+            return IconMask::tint(coverage, size, color);
+    }
+    const QByteArray coverage = stem.isEmpty() ? QByteArray() : IconMask::draw(Symbols::file(symbol), size);
+    if (coverage.isEmpty()) {
+        QImage blank(size, QImage::Format_ARGB32_Premultiplied);
+        blank.fill(Qt::transparent);
+        return blank;
+    }
+    return IconMask::tint(reinterpret_cast<const uchar *>(coverage.constData()), size, color);
 }
 
 } // namespace quorvane

@@ -7,9 +7,10 @@
 namespace quorvane {
 
 // Draws the bundled icons in any colour: "image://icon/<symbol>?color=<RRGGBB or AARRGGBB>".
-// The SVGs are drawn as they are and then filled with the colour where they have ink, so
-// one file serves every tint and anti-aliasing survives. An unknown symbol gives a
-// transparent image of the requested size, so a missing icon leaves a gap and no error.
+// An icon's coverage is filled with the colour (IconMask), so one file serves every tint and
+// anti-aliasing survives; at the usual sizes the build has drawn the coverage already (IconMasks).
+// An unknown symbol gives a transparent image of the requested size, so a missing icon leaves a
+// gap and no error.
 class IconProvider : public QQuickImageProvider
 {
 public:

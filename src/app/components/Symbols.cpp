@@ -88,8 +88,13 @@ const QHash<QString, QString> &table()
 
 QString file(const QString &name)
 {
-    const auto it = table().constFind(name);
-    return it == table().cend() ? QString() : folder + *it + u".svg"_s;
+    const QString found = stem(name);
+    return found.isEmpty() ? QString() : folder + found + u".svg"_s;
+}
+
+QString stem(const QString &name)
+{
+    return table().value(name);
 }
 
 QStringList names()

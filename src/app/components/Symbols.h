@@ -10,6 +10,9 @@ namespace quorvane::Symbols {
 // The resource path of the icon for a symbol name, or an empty text for a name not in the table.
 [[nodiscard]] QString file(const QString &name);
 
+// The name of that icon's file without its folder and ".svg" ("calendar"), or an empty text.
+[[nodiscard]] QString stem(const QString &name);
+
 // Every symbol name the table knows.
 [[nodiscard]] QStringList names();
 

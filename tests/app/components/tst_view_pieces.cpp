@@ -1,5 +1,7 @@
 // The shared view pieces' logic: status pills, skeleton bars, hex colours, icons.
 #include "components/HexColor.h"
+#include "components/IconMask.h"
+#include "components/IconMasks.h"
 #include "components/IconProvider.h"
 #include "components/Skeleton.h"
 #include "components/StatusLabel.h"
@@ -9,6 +11,8 @@
 #include <QFile>
 #include <QImage>
 #include <QTest>
+
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 using namespace quorvane;
@@ -103,6 +107,31 @@ private Q_SLOTS:
             blank.fill(Qt::transparent);
             QVERIFY2(drawn != blank, qPrintable(name));
         }
+    }
+
+    // What the build drew ahead is what the app would draw now, for every icon; a size not
+    // drawn ahead is drawn on the spot, in the same way.
+    void iconsDrawnAheadMatchTheirDrawings()
+    {
+        for (const QString &name : Symbols::names()) {
+            for (const int side : {8, 15, 36}) {
+                const uchar *ahead = IconMasks::find(Symbols::stem(name), side);
+                QVERIFY2(ahead, qPrintable(name));
+                const QByteArray now = IconMask::draw(Symbols::file(name), QSize(side, side));
+                QVERIFY2(std::memcmp(ahead, now.constData(), size_t(now.size())) == 0, qPrintable(name));
+            }
+        }
+        QVERIFY(!IconMasks::find(u"calendar", 37));
+        QVERIFY(!IconMasks::find(u"calendar-x", 9));
+        QVERIFY(!IconMasks::find(u"zzz", 16));
+
+        const QImage ahead = IconProvider::render(u"calendar"_s, Qt::red, QSize(16, 16));
+        const QByteArray drawn = IconMask::draw(Symbols::file(u"calendar"_s), QSize(16, 16));
+        QCOMPARE(ahead, IconMask::tint(reinterpret_cast<const uchar *>(drawn.constData()), QSize(16, 16), Qt::red));
+        const QImage odd = IconProvider::render(u"calendar"_s, Qt::red, QSize(37, 30));
+        QImage blank(QSize(37, 30), odd.format());
+        blank.fill(Qt::transparent);
+        QVERIFY(odd != blank);
     }
 };
 
