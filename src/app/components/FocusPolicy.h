@@ -13,7 +13,12 @@ namespace FocusPolicy {
 Q_NAMESPACE
 QML_ELEMENT
 
-enum Value { NoFocus = Qt::NoFocus, TabFocus = Qt::TabFocus, ClickFocus = Qt::ClickFocus, StrongFocus = Qt::StrongFocus };
+enum Value {
+    NoFocus = Qt::NoFocus,
+    TabFocus = Qt::TabFocus,
+    ClickFocus = Qt::ClickFocus,
+    StrongFocus = Qt::StrongFocus
+};
 Q_ENUM_NS(Value)
 } // namespace FocusPolicy
 

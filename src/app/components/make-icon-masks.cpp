@@ -34,7 +34,8 @@ int main(int argc, char *argv[])
                 std::fprintf(stderr, "quorvane-make-icon-masks: %s does not draw\n", qPrintable(icon));
                 return 1;
             }
-            table += "    {\"" + stem + "\", " + QByteArray::number(side) + ", " + QByteArray::number(data.size()) + "},\n";
+            table +=
+                "    {\"" + stem + "\", " + QByteArray::number(side) + ", " + QByteArray::number(data.size()) + "},\n";
             data += coverage;
             ++count;
         }
@@ -44,7 +45,7 @@ int main(int argc, char *argv[])
                         "#include \"components/IconMasks.h\"\n\n"
                         "namespace quorvane::IconMasks::data {\n\n"
                         "const Entry entries[] = {\n"
-        + table + "};\nconst unsigned entryCount = " + QByteArray::number(count) + ";\n";
+                        + table + "};\nconst unsigned entryCount = " + QByteArray::number(count) + ";\n";
     // Octal escapes, 32 bytes a line; a literal this long is far cheaper to compile than an
     // initialiser list.
     source += "const char coverage[] =\n";
