@@ -32,10 +32,11 @@ bool fromQml(const QMessageLogContext &context)
 }
 } // namespace
 
-SelfTest::SelfTest(QQmlApplicationEngine &engine, QElapsedTimer started, QObject *parent)
+SelfTest::SelfTest(QQmlApplicationEngine &engine, QElapsedTimer started, qint64 cpuAtStartUs, QObject *parent)
     : QObject(parent)
     , m_engine(engine)
     , m_started(started)
+    , m_cpuAtStartUs(cpuAtStartUs)
 {
     active = this;
     previousHandler = qInstallMessageHandler(&SelfTest::onMessage);
@@ -95,8 +96,10 @@ int SelfTest::run(const QUrl &root, const QList<QmlType> &views, const QString &
         std::fprintf(stderr, "self-test: %s\n", qPrintable(problem));
     if (!m_problems.isEmpty())
         return 1;
-    std::printf("self-test: %d QML files compiled; first frame after %lld ms; resident %lld KiB", int(files.size()),
-                static_cast<long long>(m_firstFrameMs), static_cast<long long>(resident.value_or(-1)));
+    std::printf("self-test: %d QML files compiled; first frame after %lld ms; resident %lld KiB; processor %lld ms",
+                int(files.size()), static_cast<long long>(m_firstFrameMs),
+                static_cast<long long>(resident.value_or(-1)),
+                static_cast<long long>((m_firstFrameCpuUs - m_cpuAtStartUs) / 1000));
     if (m_open)
         std::printf("; section opened in %lld ms", static_cast<long long>(m_openingMs));
     std::printf("\n");
@@ -141,8 +144,10 @@ void SelfTest::waitForFirstFrame(int timeoutMs)
     m_main = main;
     QEventLoop loop;
     connect(main, &QQuickWindow::frameSwapped, &loop, [this, &loop] {
-        if (m_firstFrameMs < 0)
+        if (m_firstFrameMs < 0) {
             m_firstFrameMs = m_started.elapsed();
+            m_firstFrameCpuUs = ProcessStats::ownCpuUs();
+        }
         loop.quit();
     });
     QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QList>
 
+#include <time.h>
 #include <unistd.h>
 
 namespace quorvane::ProcessStats {
@@ -52,6 +53,14 @@ std::optional<qint64> cpuMs(pid_t pid)
     if (!userOk || !systemOk || perSecond <= 0)
         return std::nullopt;
     return ticks * 1000 / perSecond;
+}
+
+qint64 ownCpuUs()
+{
+    timespec used{};
+    if (::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used) != 0)
+        return 0;
+    return qint64(used.tv_sec) * 1'000'000 + used.tv_nsec / 1'000;
 }
 
 } // namespace quorvane::ProcessStats

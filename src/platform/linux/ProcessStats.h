@@ -14,5 +14,8 @@ namespace quorvane::ProcessStats {
 [[nodiscard]] std::optional<qint64> residentKiB(pid_t pid = 0);
 // Processor time used so far, user and system together, in milliseconds.
 [[nodiscard]] std::optional<qint64> cpuMs(pid_t pid = 0);
+// Processor time this process has used so far, on all its threads, in microseconds: finer than
+// cpuMs(), which counts in the kernel's ticks.
+[[nodiscard]] qint64 ownCpuUs();
 
 } // namespace quorvane::ProcessStats

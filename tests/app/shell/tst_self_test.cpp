@@ -1,3 +1,4 @@
+#include "linux/ProcessStats.h"
 #include "shell/SelfTest.h"
 
 #include <QDir>
@@ -72,7 +73,7 @@ private Q_SLOTS:
         QElapsedTimer started;
         started.start();
         QQmlApplicationEngine engine;
-        SelfTest test(engine, started);
+        SelfTest test(engine, started, ProcessStats::ownCpuUs());
         QCOMPARE(test.run(QUrl::fromLocalFile(folder.filePath(u"Root.qml"_s)), {QmlType{view, u"Item"_s}},
                           folder.filePath(u"ui"_s), 1500),
                  problem.isEmpty() ? 0 : 1);
