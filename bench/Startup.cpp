@@ -166,17 +166,22 @@ std::optional<double> idleCpu(const QString &appPath, const QProcessEnvironment 
         return std::nullopt;
     QThread::msleep(4'000); // start, first refresh (refused at once), settling
     const pid_t pid = pid_t(app.processId());
-    const std::optional<qint64> before = ProcessStats::cpuMs(pid);
+    const std::optional<QHash<pid_t, qint64>> before = ProcessStats::threadRunNs(pid);
     QElapsedTimer wall;
     wall.start();
     QThread::msleep(seconds * 1000);
-    const std::optional<qint64> after = ProcessStats::cpuMs(pid);
-    const qint64 elapsed = wall.elapsed();
+    const std::optional<QHash<pid_t, qint64>> after = ProcessStats::threadRunNs(pid);
+    const qint64 elapsedNs = wall.nsecsElapsed();
     app.kill();
     app.waitForFinished();
     if (!before || !after)
         return std::nullopt;
-    return 100.0 * double(*after - *before) / double(elapsed);
+    // Thread by thread: one that ended meanwhile had been idle (the pool lets a thread go after
+    // 30 s without work), and one that began counts from nothing.
+    qint64 usedNs = 0;
+    for (auto it = after->cbegin(); it != after->cend(); ++it)
+        usedNs += it.value() - before->value(it.key(), 0);
+    return 100.0 * double(usedNs) / double(elapsedNs);
 }
 
 } // namespace

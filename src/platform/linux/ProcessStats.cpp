@@ -1,11 +1,14 @@
 #include "ProcessStats.h"
 
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
 #include <QList>
 
 #include <time.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace quorvane::ProcessStats {
 
@@ -37,22 +40,24 @@ std::optional<qint64> residentKiB(pid_t pid)
     return std::nullopt;
 }
 
-std::optional<qint64> cpuMs(pid_t pid)
+std::optional<QHash<pid_t, qint64>> threadRunNs(pid_t pid)
 {
-    // The command name in field 2 may hold spaces and parentheses; count from its last ')'.
-    const std::optional<QByteArray> stat = procFile(pid, "stat");
-    const qsizetype close = stat ? stat->lastIndexOf(')') : -1;
-    if (close < 0)
+    const QString tasks = u"/proc/%1/task"_s.arg(pid == 0 ? u"self"_s : QString::number(pid));
+    const QStringList ids = QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    if (ids.isEmpty())
         return std::nullopt;
-    const QList<QByteArray> fields = stat->mid(close + 2).split(' ');
-    // After the name: state is field 3, utime field 14 and stime field 15.
-    bool userOk = false;
-    bool systemOk = false;
-    const qint64 ticks = fields.value(11).toLongLong(&userOk) + fields.value(12).toLongLong(&systemOk);
-    const long perSecond = sysconf(_SC_CLK_TCK);
-    if (!userOk || !systemOk || perSecond <= 0)
-        return std::nullopt;
-    return ticks * 1000 / perSecond;
+    QHash<pid_t, qint64> out;
+    for (const QString &id : ids) {
+        // "time on the processor, time waiting for it, slices", the first two in nanoseconds
+        QFile file(tasks + u'/' + id + u"/schedstat"_s);
+        bool ok = false;
+        const qint64 runNs = file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(0).toLongLong(&ok) : 0;
+        if (ok) // a thread that ended meanwhile has no file left
+            out.insert(pid_t(id.toInt()), runNs);
+    }
+    if (out.isEmpty())
+        return std::nullopt; // a kernel without the scheduler's statistics
+    return out;
 }
 
 qint64 ownCpuUs()
