@@ -24,8 +24,7 @@ private Q_SLOTS:
         std::binary_semaphore read(0);
         std::thread busy([&] {
             const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(50);
-            while (std::chrono::steady_clock::now() < until) {
-            }
+            while (std::chrono::steady_clock::now() < until) {}
             worker = ::gettid();
             read.acquire(); // alive until its figure is read
         });

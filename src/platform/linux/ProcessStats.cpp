@@ -8,16 +8,19 @@
 #include <time.h>
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 namespace quorvane::ProcessStats {
 
 namespace {
 
-std::optional<QByteArray> procFile(pid_t pid, const char *name)
+QString procPath(pid_t pid, const QByteArray &name)
 {
     const QByteArray who = pid == 0 ? QByteArray("self") : QByteArray::number(pid);
-    QFile file(QString::fromLatin1("/proc/" + who + '/' + name));
+    return QString::fromLatin1("/proc/" + who + '/' + name);
+}
+
+std::optional<QByteArray> procFile(pid_t pid, const QByteArray &name)
+{
+    QFile file(procPath(pid, name));
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     return file.readAll();
@@ -42,16 +45,15 @@ std::optional<qint64> residentKiB(pid_t pid)
 
 std::optional<QHash<pid_t, qint64>> threadRunNs(pid_t pid)
 {
-    const QString tasks = u"/proc/%1/task"_s.arg(pid == 0 ? u"self"_s : QString::number(pid));
-    const QStringList ids = QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    const QStringList ids = QDir(procPath(pid, "task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     if (ids.isEmpty())
         return std::nullopt;
     QHash<pid_t, qint64> out;
     for (const QString &id : ids) {
         // "time on the processor, time waiting for it, slices", the first two in nanoseconds
-        QFile file(tasks + u'/' + id + u"/schedstat"_s);
+        const std::optional<QByteArray> stat = procFile(pid, "task/" + id.toLatin1() + "/schedstat");
         bool ok = false;
-        const qint64 runNs = file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(0).toLongLong(&ok) : 0;
+        const qint64 runNs = stat ? stat->split(' ').value(0).toLongLong(&ok) : 0;
         if (ok) // a thread that ended meanwhile has no file left
             out.insert(pid_t(id.toInt()), runNs);
     }
