@@ -30,7 +30,7 @@ int SectionListModel::badge(AppSection section, const AppModel &app)
     case AppSection::today:
         return int(app.today().size());
     case AppSection::bookings:
-        return int(app.upcoming().size());
+        return int(app.upcomingCount());
     default:
         return 0;
     }

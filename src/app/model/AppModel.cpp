@@ -217,13 +217,23 @@ QList<Booking> AppModel::upcoming() const
     return out;
 }
 
+qsizetype AppModel::upcomingCount() const
+{
+    const Instant at = now();
+    return std::count_if(m_order.activeByStart.cbegin(), m_order.activeByStart.cend(),
+                         [&at](const Booking &b) { return b.end > at; });
+}
+
 QList<Booking> AppModel::today() const
 {
+    const Instant at = now();
     const QTimeZone tz(m_env.zone.toUtf8());
-    const QDate day = now().toTimeZone(tz).date();
+    const QDate day = at.toTimeZone(tz).date();
     QList<Booking> out;
     // By start: once one starts after today, so do all the rest.
-    for (const Booking &b : upcoming()) {
+    for (const Booking &b : m_order.activeByStart) {
+        if (b.end <= at)
+            continue;
         const QDate starts = b.start.toTimeZone(tz).date();
         if (starts > day)
             break;

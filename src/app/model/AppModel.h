@@ -106,6 +106,8 @@ public:
     [[nodiscard]] QList<EventType> eventTypes() const;
     [[nodiscard]] QList<EventType> activeTypes() const;
     [[nodiscard]] QList<Booking> upcoming() const;
+    // As many as upcoming() gives, without copying them.
+    [[nodiscard]] qsizetype upcomingCount() const;
     [[nodiscard]] QList<Booking> today() const;
     [[nodiscard]] std::optional<Booking> next() const;
     [[nodiscard]] QList<Booking> allBookings() const;

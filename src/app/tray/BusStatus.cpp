@@ -16,7 +16,7 @@ DBusApplication::Status of(const AppModel &model)
     if (model.snapshot().savedAt > distantPast())
         status.savedAt = ISO::secondsString(model.snapshot().savedAt);
     status.todayCount = int(model.today().size());
-    status.upcomingCount = int(model.upcoming().size());
+    status.upcomingCount = int(model.upcomingCount());
     const std::optional<Booking> next = model.next();
     if (!next)
         return status;

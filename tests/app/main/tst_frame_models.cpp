@@ -79,14 +79,20 @@ private Q_SLOTS:
         SectionListModel rows;
         QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
         rows.setApp(&app.model());
-        const auto badge = [&rows] { return rows.data(rows.index(0, 0), SectionListModel::BadgeRole).toInt(); };
+        const auto badge = [&rows](int row) {
+            return rows.data(rows.index(row, 0), SectionListModel::BadgeRole).toInt();
+        };
         QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
-        QVERIFY(badge() > 0);
-        QCOMPARE(badge(), int(app.model().today().size()));
+        QVERIFY(badge(0) > 0);
+        QCOMPARE(badge(0), int(app.model().today().size()));
+        const int upcoming = badge(1);
+        QCOMPARE(upcoming, int(app.model().upcoming().size()));
         app.clock.set(QDateTime(QDate(2026, 3, 11), QTime(3, 59), Qt::UTC)); // 23:59 in New York (EDT)
         Q_EMIT app.model().ticked();
         QVERIFY(!changed.isEmpty() && changed.last().at(2).value<QList<int>>().contains(SectionListModel::BadgeRole));
-        QCOMPARE(badge(), 0);
+        QCOMPARE(badge(0), 0);
+        QVERIFY(badge(1) < upcoming); // today's have ended
+        QCOMPARE(badge(1), int(app.model().upcoming().size()));
     }
 
     // Signed in; a refresh that lost the calendar and the account's name; offline.
