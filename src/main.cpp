@@ -49,7 +49,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QNetworkAccessManager>
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
 #include <QQuickStyle>
 #include <QScopeGuard>
 #include <QSettings>
@@ -166,7 +166,7 @@ int main(int argc, char *argv[])
     registerSingleton<SetupServices>("Setup", setupServices);
     registerSingleton<CommandTable>("Commands", commandTable);
     registerSingleton<Updater>("Updates", updates);
-    auto engine = std::make_unique<QQmlApplicationEngine>();
+    auto engine = std::make_unique<QQmlEngine>();
     // Qt's modules first: every import of one would otherwise look for it among the app's own
     // resources first, and each such look walks all of them.
     engine->setImportPathList({QLibraryInfo::path(QLibraryInfo::QmlImportsPath), u"qrc:/qt/qml"_s});
@@ -299,8 +299,8 @@ int main(int argc, char *argv[])
         return test.run(root, ViewTable::all());
     }
 
-    engine->load(root);
-    if (engine->rootObjects().isEmpty())
+    const std::unique_ptr<QObject> shellRoot = QmlPreload::create(*engine, root);
+    if (!shellRoot)
         return 1;
     TrayController tray(*engine, model);
     if (install == FeedUpdater::Install::portable)

@@ -1,6 +1,7 @@
 #include "shell/QmlPreload.h"
 
 #include <QCoreApplication>
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QLibraryInfo>
@@ -9,6 +10,7 @@
 #include <QQmlEngine>
 
 #include <chrono>
+#include <memory>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -43,6 +45,27 @@ void finish(QQmlEngine &engine, const QList<QUrl> &documents)
         if (!url.isEmpty())
             QQmlComponent(&engine, url, QQmlComponent::PreferSynchronous);
     }
+}
+
+std::unique_ptr<QObject> create(QQmlEngine &engine, const QUrl &document)
+{
+    QQmlComponent component(&engine, document, QQmlComponent::PreferSynchronous);
+    std::unique_ptr<QObject> made(component.isReady() ? component.create() : nullptr);
+    if (!made) {
+        QList<QQmlError> errors = component.errors();
+        if (errors.isEmpty()) {
+            QQmlError error;
+            error.setUrl(document);
+            error.setDescription(u"The document made no object"_s);
+            errors.append(error);
+        }
+        if (engine.outputWarningsToStandardError()) {
+            for (const QQmlError &error : std::as_const(errors))
+                qWarning().noquote() << error.toString();
+        }
+        Q_EMIT engine.warnings(errors);
+    }
+    return made;
 }
 
 void loadPlugins(const QStringList &modules)

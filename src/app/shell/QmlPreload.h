@@ -7,6 +7,9 @@
 #include <QUrl>
 
 #include <functional>
+#include <memory>
+
+class QObject;
 
 class QQmlEngine;
 
@@ -30,6 +33,12 @@ void serve(const QList<Chore> &chores);
 
 // Waits until those documents are compiled, answering the loader thread meanwhile.
 void finish(QQmlEngine &engine, const QList<QUrl> &documents);
+
+// Makes the document's root object, once it is compiled; null when it can't be made, with the
+// reasons among the engine's warnings. The caller keeps the object and deletes it before the
+// engine. (Unlike QQmlApplicationEngine::load, this looks for no translations beside the
+// document: the application installs its own.)
+[[nodiscard]] std::unique_ptr<QObject> create(QQmlEngine &engine, const QUrl &document);
 
 // Loads the plugins of those Qt modules (by URI, "QtQuick.Controls"), and the libraries they
 // stand on, into the process, on the calling thread, so that a side thread can do it while the

@@ -1,13 +1,14 @@
 #include "shell/SelfTest.h"
 
 #include "linux/ProcessStats.h"
+#include "shell/QmlPreload.h"
 
 #include <QDirIterator>
 #include <QEventLoop>
 #include <QFile>
 #include <QGuiApplication>
-#include <QQmlApplicationEngine>
 #include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QTimer>
 
@@ -32,7 +33,7 @@ bool fromQml(const QMessageLogContext &context)
 }
 } // namespace
 
-SelfTest::SelfTest(QQmlApplicationEngine &engine, QElapsedTimer started, qint64 cpuAtStartUs, QObject *parent)
+SelfTest::SelfTest(QQmlEngine &engine, QElapsedTimer started, qint64 cpuAtStartUs, QObject *parent)
     : QObject(parent)
     , m_engine(engine)
     , m_started(started)
@@ -80,8 +81,8 @@ int SelfTest::run(const QUrl &root, const QList<QmlType> &views, const QString &
 {
     // The window first, as a user's start would go; every other file is listed and compiled
     // after it, so the first frame's time is the start's own.
-    m_engine.load(root);
-    if (m_engine.rootObjects().isEmpty())
+    m_root = QmlPreload::create(m_engine, root);
+    if (!m_root)
         m_problems.append(u"%1 did not load"_s.arg(root.toString()));
     else
         waitForFirstFrame(timeoutMs);

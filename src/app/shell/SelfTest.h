@@ -9,9 +9,9 @@
 #include <QStringList>
 #include <QUrl>
 #include <functional>
+#include <memory>
 
 class QQmlEngine;
-class QQmlApplicationEngine;
 
 namespace quorvane {
 
@@ -28,7 +28,7 @@ public:
     // `started` runs since the process began, when it had used `cpuAtStartUs` of processor time
     // (ProcessStats::ownCpuUs); the report gives the first frame's time and processor time from
     // there.
-    SelfTest(QQmlApplicationEngine &engine, QElapsedTimer started, qint64 cpuAtStartUs, QObject *parent = nullptr);
+    SelfTest(QQmlEngine &engine, QElapsedTimer started, qint64 cpuAtStartUs, QObject *parent = nullptr);
     ~SelfTest() override;
 
     // Every QML file below `folder` (of the resources, by default) but singletons, sorted, as URLs.
@@ -55,7 +55,8 @@ private:
     qint64 timeOpening(QQuickWindow *main, int timeoutMs);
     static void onMessage(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
-    QQmlApplicationEngine &m_engine;
+    QQmlEngine &m_engine;
+    std::unique_ptr<QObject> m_root;
     QElapsedTimer m_started;
     qint64 m_cpuAtStartUs = 0;
     qint64 m_firstFrameCpuUs = -1;

@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -46,6 +46,7 @@ private Q_SLOTS:
         const QString fine = u"import QtQuick\nItem { width: 10 }\n"_s, broken = u"import QtQuick\nItem { width: }\n"_s;
         const QString quick = u"QtQuick"_s;
         QTest::newRow("sound") << window(u"Rectangle { anchors.fill: parent }"_s) << fine << quick << QString();
+        QTest::newRow("the root does not compile") << broken << fine << quick << u"Root.qml"_s;
         QTest::newRow("another file does not compile") << window({}) << broken << quick << u"other.qml"_s;
         QTest::newRow("binding error at run time")
             << window(u"Rectangle { width: gone.width }"_s) << fine << quick << u"gone"_s;
@@ -72,7 +73,7 @@ private Q_SLOTS:
 
         QElapsedTimer started;
         started.start();
-        QQmlApplicationEngine engine;
+        QQmlEngine engine;
         SelfTest test(engine, started, ProcessStats::ownCpuUs());
         QCOMPARE(test.run(QUrl::fromLocalFile(folder.filePath(u"Root.qml"_s)), {QmlType{view, u"Item"_s}},
                           folder.filePath(u"ui"_s), 1500),
