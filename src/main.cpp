@@ -117,7 +117,7 @@ int main(int argc, char *argv[])
     // A start does several slow things that don't need each other, so they run side by side:
     // the saved data is decoded and sorted and the locale's date patterns are worked out, each
     // on a thread of its own, from here on; the Qt Quick plugins are loaded, the font database
-    // read and the system bus reached once the application exists. Meanwhile the QML engine
+    // read and the system bus reached once the engine exists. Meanwhile the QML engine
     // compiles the first window on its loader thread and the main thread makes the services.
     // The side threads give way to those two, which the first frame waits for first.
     const QString dataDirectory = DataPaths::defaultDirectory();
@@ -135,12 +135,6 @@ int main(int argc, char *argv[])
         });
     }
     QApplication app(argc, argv); // Qt Charts needs the widgets application
-    // A plugin and the libraries below it take a while to load and link, which is done here
-    // before the engine gets to it (and after the application has loaded its own platform
-    // plugin, which would otherwise wait for these).
-    std::future<void> plugins;
-    if (starting)
-        plugins = std::async(std::launch::async, [] { QmlPreload::loadPlugins(firstWindowModules()); });
     QApplication::setApplicationName(u"Quorvane"_s);
     QApplication::setOrganizationName(u"Quorvane"_s);
     QApplication::setDesktopFileName(u"com.peldrachen.quorvane"_s);
@@ -167,6 +161,12 @@ int main(int argc, char *argv[])
     registerSingleton<CommandTable>("Commands", commandTable);
     registerSingleton<Updater>("Updates", updates);
     auto engine = std::make_unique<QQmlEngine>();
+    // A plugin and the libraries below it take a while to load and link, which is done here
+    // before the loader gets to it. Not sooner: mapping them in slows the engine's own making,
+    // which touches much new memory.
+    std::future<void> plugins;
+    if (starting)
+        plugins = std::async(std::launch::async, [] { QmlPreload::loadPlugins(firstWindowModules()); });
     // Qt's modules first: every import of one would otherwise look for it among the app's own
     // resources first, and each such look walks all of them.
     engine->setImportPathList({QLibraryInfo::path(QLibraryInfo::QmlImportsPath), u"qrc:/qt/qml"_s});
