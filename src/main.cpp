@@ -278,7 +278,17 @@ int main(int argc, char *argv[])
     setupServices = &setup;
     commandTable = &commands;
     updates = &updater;
-    QmlPreload::finish(*engine, {root});
+    // Waiting for the window to be compiled, the main thread measures the first frame's text
+    // in each of its styles, which its making would otherwise do.
+    QList<QmlPreload::Chore> measuring;
+    if (!options.hidden) {
+        for (const FirstFrameFonts::Style &style : FirstFrameFonts::styles())
+            measuring.append([style] {
+                FirstFrameFonts::measure(style);
+                return true;
+            });
+    }
+    QmlPreload::finish(*engine, {root}, measuring);
     // The windows close before the objects they show go.
     const auto closeWindows = qScopeGuard([&engine] { engine.reset(); });
 

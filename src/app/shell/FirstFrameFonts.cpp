@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace quorvane::FirstFrameFonts {
 
 QList<Style> styles()
@@ -32,6 +34,18 @@ QFont font(const Style &style)
 void load(const Style &style)
 {
     (void)QFontMetricsF(font(style)).height(); // asks for the font's engine
+}
+
+void measure(const Style &style)
+{
+    // Printable ASCII, and the dashes, quotes and dots the interface writes with.
+    static const QString characters = [] {
+        QString out;
+        for (char16_t c = u' '; c <= u'~'; ++c)
+            out.append(QChar(c));
+        return out + u"\u2013\u2014\u2019\u201C\u201D\u2026\u00B7\u2022"_s;
+    }();
+    (void)QFontMetricsF(font(style)).horizontalAdvance(characters);
 }
 
 } // namespace quorvane::FirstFrameFonts

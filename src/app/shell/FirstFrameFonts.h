@@ -22,4 +22,8 @@ struct Style {
 // Looks the style's font up now, on the calling thread.
 void load(const Style &style);
 
+// Measures the characters most of the window's text is made of in that style, on the calling
+// thread, so that laying the first frame's text out finds their shapes and advances known.
+void measure(const Style &style);
+
 } // namespace quorvane::FirstFrameFonts

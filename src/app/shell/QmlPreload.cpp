@@ -9,9 +9,11 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -25,9 +27,12 @@ void start(QQmlEngine &engine, const QList<QUrl> &documents)
     }
 }
 
-void serve(const QList<Chore> &chores)
+namespace {
+// Does the chores in order while `going` holds, answering the loader thread in between.
+template <typename Going>
+void runChores(const QList<Chore> &chores, Going going)
 {
-    for (qsizetype next = 0; next < chores.size();) {
+    for (qsizetype next = 0; next < chores.size() && going();) {
         // The loader thread's requests come to the main thread as posted events of this type.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::User);
         if (chores.at(next)())
@@ -36,9 +41,25 @@ void serve(const QList<Chore> &chores)
             std::this_thread::sleep_for(std::chrono::microseconds(200));
     }
 }
+} // namespace
 
-void finish(QQmlEngine &engine, const QList<QUrl> &documents)
+void serve(const QList<Chore> &chores)
 {
+    runChores(chores, [] { return true; });
+}
+
+void finish(QQmlEngine &engine, const QList<QUrl> &documents, const QList<Chore> &spare)
+{
+    if (!spare.isEmpty()) {
+        std::vector<std::unique_ptr<QQmlComponent>> pending;
+        for (const QUrl &url : documents) {
+            if (!url.isEmpty())
+                pending.push_back(std::make_unique<QQmlComponent>(&engine, url, QQmlComponent::Asynchronous));
+        }
+        runChores(spare, [&pending] {
+            return std::any_of(pending.cbegin(), pending.cend(), [](const auto &c) { return c->isLoading(); });
+        });
+    }
     // A synchronous request for a document on its way waits for it, answering the loader
     // thread meanwhile; one that is ready returns at once.
     for (const QUrl &url : documents) {

@@ -31,8 +31,11 @@ using Chore = std::function<bool()>;
 // moment only.
 void serve(const QList<Chore> &chores);
 
-// Waits until those documents are compiled, answering the loader thread meanwhile.
-void finish(QQmlEngine &engine, const QList<QUrl> &documents);
+// Waits until those documents are compiled, answering the loader thread meanwhile. While they
+// are still on their way it does the spare chores, in order: work that makes what follows
+// cheaper but is only worth doing while the main thread would otherwise wait. Those left when
+// the documents are ready are dropped.
+void finish(QQmlEngine &engine, const QList<QUrl> &documents, const QList<Chore> &spare = {});
 
 // Makes the document's root object, once it is compiled; null when it can't be made, with the
 // reasons among the engine's warnings. The caller keeps the object and deletes it before the

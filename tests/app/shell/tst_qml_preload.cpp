@@ -4,7 +4,9 @@
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <future>
 
@@ -41,6 +43,37 @@ private Q_SLOTS:
         const std::unique_ptr<QObject> made(component.create());
         QVERIFY2(made, qPrintable(component.errorString()));
         QCOMPARE(made->thread(), QThread::currentThread());
+    }
+
+    // Spare work fills the wait for a document and stops when the document is ready; with the
+    // document ready already, there is no wait to fill.
+    void spareWorkOnlyWhileWaiting()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath(u"Window.qml"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(
+            "import QtQuick\nimport QtQuick.Controls\nimport QtQuick.Layouts\nPane { ColumnLayout { Button {} } }\n");
+        file.close();
+        const QUrl url = QUrl::fromLocalFile(file.fileName());
+
+        QQmlEngine engine;
+        int done = 0;
+        const QList<QmlPreload::Chore> spare(10'000, [&done] {
+            QThread::msleep(1);
+            ++done;
+            return true;
+        });
+        QmlPreload::start(engine, {url});
+        QmlPreload::finish(engine, {url}, spare);
+        QVERIFY(done > 0);
+        QVERIFY(done < spare.size());
+        QQmlComponent ready(&engine, url, QQmlComponent::Asynchronous);
+        QVERIFY2(ready.isReady(), qPrintable(ready.errorString()));
+
+        done = 0;
+        QmlPreload::finish(engine, {url}, spare);
+        QCOMPARE(done, 0);
     }
 };
 
