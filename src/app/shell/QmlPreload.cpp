@@ -73,18 +73,13 @@ std::unique_ptr<QObject> create(QQmlEngine &engine, const QUrl &document)
     QQmlComponent component(&engine, document, QQmlComponent::PreferSynchronous);
     std::unique_ptr<QObject> made(component.isReady() ? component.create() : nullptr);
     if (!made) {
-        QList<QQmlError> errors = component.errors();
-        if (errors.isEmpty()) {
-            QQmlError error;
-            error.setUrl(document);
-            error.setDescription(u"The document made no object"_s);
-            errors.append(error);
-        }
+        const QList<QQmlError> errors = component.errors();
         if (engine.outputWarningsToStandardError()) {
             for (const QQmlError &error : std::as_const(errors))
                 qWarning().noquote() << error.toString();
         }
-        Q_EMIT engine.warnings(errors);
+        if (!errors.isEmpty())
+            Q_EMIT engine.warnings(errors);
     }
     return made;
 }
