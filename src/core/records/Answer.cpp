@@ -4,10 +4,22 @@ using namespace Qt::StringLiterals;
 
 namespace quorvane {
 
+namespace {
+template <class Reader>
+Answer read(const Reader &r)
+{
+    return Answer{r.template required<QString>("q"_L1), r.template required<QString>("a"_L1)};
+}
+} // namespace
+
 Answer Codec<Answer>::decode(const QJsonValue &value, const CodingPath &path)
 {
-    const ObjectReader r(value, path);
-    return Answer{r.required<QString>("q"_L1), r.required<QString>("a"_L1)};
+    return read(ObjectReader(value, path));
+}
+
+Answer Codec<Answer>::decode(const JSONScan::Value &value, const CodingPath &path)
+{
+    return read(ScanObjectReader(value, path));
 }
 
 QJsonValue Codec<Answer>::encode(const Answer &x)

@@ -18,6 +18,6 @@ inline size_t qHash(const Answer &x, size_t seed = 0)
     return hashFields(seed, x.q, x.a);
 }
 
-QUORVANE_DECLARE_CODEC(Answer)
+QUORVANE_DECLARE_SCANNED_CODEC(Answer)
 
 } // namespace quorvane

@@ -23,30 +23,43 @@ size_t qHash(const Booking &b, size_t seed)
                       b.inCalendar, b.created, b.updated, b.noShow, b.answers);
 }
 
-Booking Codec<Booking>::decode(const QJsonValue &value, const CodingPath &path)
+namespace {
+// The rules, for either reader.
+template <class Reader>
+Booking read(const Reader &r, const CodingPath &path)
 {
-    const ObjectReader r(value, path);
     Booking b;
-    b.id = r.required<QString>("id"_L1);
-    b.type = r.required<QString>("type"_L1);
-    b.start = r.required<Instant>("start"_L1);
-    b.end = r.required<Instant>("end"_L1);
-    b.name = r.required<QString>("name"_L1);
-    b.email = r.required<QString>("email"_L1);
-    b.tz = r.required<QString>("tz"_L1);
-    b.notes = r.optional<QString>("notes"_L1);
+    b.id = r.template required<QString>("id"_L1);
+    b.type = r.template required<QString>("type"_L1);
+    b.start = r.template required<Instant>("start"_L1);
+    b.end = r.template required<Instant>("end"_L1);
+    b.name = r.template required<QString>("name"_L1);
+    b.email = r.template required<QString>("email"_L1);
+    b.tz = r.template required<QString>("tz"_L1);
+    b.notes = r.template optional<QString>("notes"_L1);
     // The key must be there; whatever it holds decodes, null included.
-    const QJsonValue status = r.object().value("status"_L1);
+    const QJsonValue status = r.value("status"_L1);
     if (status.isUndefined())
         codec::fail(path.key(u"status"_s), u"No value for required key \"status\""_s);
     b.status = Codec<BookingStatus>::decode(status, path.key(u"status"_s));
-    b.meet = r.optional<QString>("meet"_L1);
-    b.inCalendar = r.optional<bool>("inCalendar"_L1);
-    b.created = r.optional<Instant>("created"_L1);
-    b.updated = r.optional<Instant>("updated"_L1);
-    b.noShow = r.optional<bool>("noShow"_L1);
-    b.answers = r.optional<QList<Answer>>("answers"_L1);
+    b.meet = r.template optional<QString>("meet"_L1);
+    b.inCalendar = r.template optional<bool>("inCalendar"_L1);
+    b.created = r.template optional<Instant>("created"_L1);
+    b.updated = r.template optional<Instant>("updated"_L1);
+    b.noShow = r.template optional<bool>("noShow"_L1);
+    b.answers = r.template optional<QList<Answer>>("answers"_L1);
     return b;
+}
+} // namespace
+
+Booking Codec<Booking>::decode(const QJsonValue &value, const CodingPath &path)
+{
+    return read(ObjectReader(value, path), path);
+}
+
+Booking Codec<Booking>::decode(const JSONScan::Value &value, const CodingPath &path)
+{
+    return read(ScanObjectReader(value, path), path);
 }
 
 QJsonValue Codec<Booking>::encode(const Booking &b)

@@ -38,6 +38,6 @@ struct Booking {
 
 size_t qHash(const Booking &b, size_t seed = 0);
 
-QUORVANE_DECLARE_CODEC(Booking)
+QUORVANE_DECLARE_SCANNED_CODEC(Booking)
 
 } // namespace quorvane

@@ -153,6 +153,13 @@ QString Codec<QString>::decode(const QJsonValue &v, const CodingPath &path)
     return v.toString();
 }
 
+QString Codec<QString>::decode(const JSONScan::Value &v, const CodingPath &)
+{
+    if (v.kind() != JSONScan::Kind::text)
+        throw ScanDeclined{};
+    return v.text();
+}
+
 qint64 Codec<qint64>::decode(const QJsonValue &v, const CodingPath &path)
 {
     if (!v.isDouble())
@@ -179,12 +186,27 @@ bool Codec<bool>::decode(const QJsonValue &v, const CodingPath &path)
     return v.toBool();
 }
 
+bool Codec<bool>::decode(const JSONScan::Value &v, const CodingPath &)
+{
+    if (v.kind() != JSONScan::Kind::boolean)
+        throw ScanDeclined{};
+    return v.boolean();
+}
+
 QDateTime Codec<QDateTime>::decode(const QJsonValue &v, const CodingPath &path)
 {
     const QString text = Codec<QString>::decode(v, path);
     std::optional<Instant> instant = ISO::parse(text);
     if (!instant)
         codec::fail(path, QStringLiteral("Bad date %1").arg(text));
+    return *instant;
+}
+
+QDateTime Codec<QDateTime>::decode(const JSONScan::Value &v, const CodingPath &path)
+{
+    std::optional<Instant> instant = ISO::parse(Codec<QString>::decode(v, path));
+    if (!instant)
+        throw ScanDeclined{};
     return *instant;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "JSONScan.h"
 #include "Result.h"
 
 #include <QDateTime>
@@ -9,6 +10,7 @@
 #include <QList>
 #include <QString>
 
+#include <concepts>
 #include <functional>
 #include <optional>
 #include <type_traits>
@@ -49,6 +51,19 @@ struct DecodeFailure {
 template <class T>
 struct Codec;
 
+// Thrown inside decoders reading a JSONScan: the value is not one of the plain cases they read,
+// and the full decoder is to judge it (and word whatever is wrong with it).
+struct ScanDeclined {};
+
+// Records that also decode straight from a JSONScan, with the same rules as from a QJsonValue.
+template <class T>
+concept ScanDecodable = requires(const JSONScan::Value &value, const CodingPath &path)
+{
+    {
+        Codec<T>::decode(value, path)
+        } -> std::same_as<T>;
+};
+
 namespace codec {
 [[noreturn]] void fail(const CodingPath &path, const QString &reason);
 [[noreturn]] void typeMismatch(const CodingPath &path, const char *expected, const QJsonValue &found);
@@ -66,6 +81,7 @@ void forEachSlice(qsizetype count, const std::function<void(qsizetype from, qsiz
 template <>
 struct Codec<QString> {
     static QString decode(const QJsonValue &v, const CodingPath &path);
+    static QString decode(const JSONScan::Value &v, const CodingPath &path);
     static QJsonValue encode(const QString &s) { return s; }
 };
 
@@ -85,6 +101,7 @@ struct Codec<int> {
 template <>
 struct Codec<bool> {
     static bool decode(const QJsonValue &v, const CodingPath &path);
+    static bool decode(const JSONScan::Value &v, const CodingPath &path);
     static QJsonValue encode(bool b) { return b; }
 };
 
@@ -92,6 +109,7 @@ struct Codec<bool> {
 template <>
 struct Codec<QDateTime> {
     static QDateTime decode(const QJsonValue &v, const CodingPath &path);
+    static QDateTime decode(const JSONScan::Value &v, const CodingPath &path);
     static QJsonValue encode(const QDateTime &d);
 };
 
@@ -117,6 +135,25 @@ struct Codec<QList<T>> {
         out.reserve(array.size());
         for (qsizetype i = 0; i < array.size(); ++i)
             out.append(Codec<T>::decode(array.at(i), path.index(i)));
+        return out;
+    }
+    static QList<T> decode(const JSONScan::Value &v,
+                           const CodingPath &path) requires ScanDecodable<T> && std::is_default_constructible_v<T>
+    {
+        if (v.kind() != JSONScan::Kind::array)
+            throw ScanDeclined{};
+        const std::vector<JSONScan::Value> elements = v.elements();
+        const auto count = qsizetype(elements.size());
+        QList<T> out(count);
+        T *items = out.data(); // no detaching while other threads write
+        const auto work = [&](qsizetype from, qsizetype to) {
+            for (qsizetype i = from; i < to; ++i)
+                items[i] = Codec<T>::decode(elements[size_t(i)], path.index(i));
+        };
+        if (codec::worthSlicing(count))
+            codec::forEachSlice(count, work);
+        else
+            work(0, count);
         return out;
     }
     static QJsonValue encode(const QList<T> &list)
@@ -170,11 +207,62 @@ public:
         }
     }
 
+    // The member as it is, undefined when absent.
+    [[nodiscard]] QJsonValue value(QLatin1StringView key) const { return m_object.value(key); }
     [[nodiscard]] const QJsonObject &object() const { return m_object; }
     [[nodiscard]] const CodingPath &path() const { return m_path; }
 
 private:
     QJsonObject m_object;
+    CodingPath m_path;
+};
+
+// ObjectReader's counterpart over a JSONScan, for the records that decode from one: it reads
+// texts, instants, booleans and lists of such records itself and hands every other member to
+// the member's QJsonValue decoder. Whatever would fail, or need wording, it declines.
+class ScanObjectReader
+{
+public:
+    ScanObjectReader(const JSONScan::Value &value, const CodingPath &path)
+        : m_value(value)
+        , m_path(path)
+    {
+        if (value.kind() != JSONScan::Kind::object)
+            throw ScanDeclined{};
+    }
+
+    template <class T>
+    [[nodiscard]] T required(QLatin1StringView key) const
+    {
+        const JSONScan::Value v = m_value.member(key);
+        if (v.isMissing() || v.isNull())
+            throw ScanDeclined{};
+        return scanned<T>(v, m_path.key(key));
+    }
+
+    template <class T>
+    [[nodiscard]] std::optional<T> optional(QLatin1StringView key) const
+    {
+        const JSONScan::Value v = m_value.member(key);
+        if (v.isMissing() || v.isNull())
+            return std::nullopt;
+        return scanned<T>(v, m_path.key(key));
+    }
+
+    [[nodiscard]] QJsonValue value(QLatin1StringView key) const { return m_value.member(key).toJsonValue(); }
+    [[nodiscard]] const CodingPath &path() const { return m_path; }
+
+private:
+    template <class T>
+    static T scanned(const JSONScan::Value &v, const CodingPath &path)
+    {
+        if constexpr (ScanDecodable<T>)
+            return Codec<T>::decode(v, path);
+        else
+            return Codec<T>::decode(v.toJsonValue(), path);
+    }
+
+    JSONScan::Value m_value;
     CodingPath m_path;
 };
 
@@ -224,5 +312,14 @@ template <class T>
     template <>                                                                                                        \
     struct Codec<Type> {                                                                                               \
         static Type decode(const QJsonValue &value, const CodingPath &path);                                           \
+        static QJsonValue encode(const Type &value);                                                                   \
+    };
+
+// As QUORVANE_DECLARE_CODEC, for a record that also decodes straight from a JSONScan.
+#define QUORVANE_DECLARE_SCANNED_CODEC(Type)                                                                           \
+    template <>                                                                                                        \
+    struct Codec<Type> {                                                                                               \
+        static Type decode(const QJsonValue &value, const CodingPath &path);                                           \
+        static Type decode(const JSONScan::Value &value, const CodingPath &path);                                      \
         static QJsonValue encode(const Type &value);                                                                   \
     };

@@ -25,6 +25,16 @@ template <class T>
 template <class T>
 [[nodiscard]] Result<T> decode(const QByteArray &bytes)
 {
+    // JSON as this app writes it reads in one pass, straight into the records; anything else,
+    // and every failure, goes through QJsonDocument, which judges and words it.
+    if constexpr (ScanDecodable<T>) {
+        if (const std::optional<JSONScan> scan = JSONScan::of(bytes)) {
+            try {
+                return Codec<T>::decode(scan->root(), CodingPath{});
+            } catch (const ScanDeclined &) {
+            } catch (const DecodeFailure &) {}
+        }
+    }
     Result<QJsonValue> value = parse(bytes);
     if (!value)
         return value.error();

@@ -19,6 +19,6 @@ struct Snapshot {
     Instant savedAt = distantPast();
 };
 
-QUORVANE_DECLARE_CODEC(Snapshot)
+QUORVANE_DECLARE_SCANNED_CODEC(Snapshot)
 
 } // namespace quorvane
