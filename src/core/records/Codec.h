@@ -121,15 +121,9 @@ struct Codec<QList<T>> {
             codec::typeMismatch(path, "an array", v);
         const QJsonArray array = v.toArray();
         if constexpr (std::is_default_constructible_v<T>) {
-            if (codec::worthSlicing(array.size())) {
-                QList<T> out(array.size());
-                T *items = out.data(); // no detaching while other threads write
-                codec::forEachSlice(array.size(), [&](qsizetype from, qsizetype to) {
-                    for (qsizetype i = from; i < to; ++i)
-                        items[i] = Codec<T>::decode(array.at(i), path.index(i));
-                });
-                return out;
-            }
+            if (codec::worthSlicing(array.size()))
+                return decodeSliced(
+                    array.size(), [&array](qsizetype i) { return array.at(i); }, path);
         }
         QList<T> out;
         out.reserve(array.size());
@@ -144,16 +138,25 @@ struct Codec<QList<T>> {
             throw ScanDeclined{};
         const std::vector<JSONScan::Value> elements = v.elements();
         const auto count = qsizetype(elements.size());
+        const auto at = [&elements](qsizetype i) -> const JSONScan::Value & { return elements[size_t(i)]; };
+        if (codec::worthSlicing(count))
+            return decodeSliced(count, at, path);
+        QList<T> out;
+        out.reserve(count);
+        for (qsizetype i = 0; i < count; ++i)
+            out.append(Codec<T>::decode(at(i), path.index(i)));
+        return out;
+    }
+    // Each of `count` elements, `at(i)` the i-th, decoded in slices by several threads.
+    template <class At>
+    static QList<T> decodeSliced(qsizetype count, const At &at, const CodingPath &path)
+    {
         QList<T> out(count);
         T *items = out.data(); // no detaching while other threads write
-        const auto work = [&](qsizetype from, qsizetype to) {
+        codec::forEachSlice(count, [&](qsizetype from, qsizetype to) {
             for (qsizetype i = from; i < to; ++i)
-                items[i] = Codec<T>::decode(elements[size_t(i)], path.index(i));
-        };
-        if (codec::worthSlicing(count))
-            codec::forEachSlice(count, work);
-        else
-            work(0, count);
+                items[i] = Codec<T>::decode(at(i), path.index(i));
+        });
         return out;
     }
     static QJsonValue encode(const QList<T> &list)
