@@ -120,16 +120,8 @@ struct Codec<QList<T>> {
         if (!v.isArray())
             codec::typeMismatch(path, "an array", v);
         const QJsonArray array = v.toArray();
-        if constexpr (std::is_default_constructible_v<T>) {
-            if (codec::worthSlicing(array.size()))
-                return decodeSliced(
-                    array.size(), [&array](qsizetype i) { return array.at(i); }, path);
-        }
-        QList<T> out;
-        out.reserve(array.size());
-        for (qsizetype i = 0; i < array.size(); ++i)
-            out.append(Codec<T>::decode(array.at(i), path.index(i)));
-        return out;
+        return decodeEach(
+            array.size(), [&array](qsizetype i) { return array.at(i); }, path);
     }
     static QList<T> decode(const JSONScan::Value &v,
                            const CodingPath &path) requires ScanDecodable<T> && std::is_default_constructible_v<T>
@@ -137,26 +129,29 @@ struct Codec<QList<T>> {
         if (v.kind() != JSONScan::Kind::array)
             throw ScanDeclined{};
         const std::vector<JSONScan::Value> elements = v.elements();
-        const auto count = qsizetype(elements.size());
-        const auto at = [&elements](qsizetype i) -> const JSONScan::Value & { return elements[size_t(i)]; };
-        if (codec::worthSlicing(count))
-            return decodeSliced(count, at, path);
+        return decodeEach(
+            qsizetype(elements.size()),
+            [&elements](qsizetype i) -> const JSONScan::Value & { return elements[size_t(i)]; }, path);
+    }
+    // Each of `count` elements, `at(i)` the i-th; a long list in slices, by several threads.
+    template <class At>
+    static QList<T> decodeEach(qsizetype count, const At &at, const CodingPath &path)
+    {
+        if constexpr (std::is_default_constructible_v<T>) {
+            if (codec::worthSlicing(count)) {
+                QList<T> out(count);
+                T *items = out.data(); // no detaching while other threads write
+                codec::forEachSlice(count, [&](qsizetype from, qsizetype to) {
+                    for (qsizetype i = from; i < to; ++i)
+                        items[i] = Codec<T>::decode(at(i), path.index(i));
+                });
+                return out;
+            }
+        }
         QList<T> out;
         out.reserve(count);
         for (qsizetype i = 0; i < count; ++i)
             out.append(Codec<T>::decode(at(i), path.index(i)));
-        return out;
-    }
-    // Each of `count` elements, `at(i)` the i-th, decoded in slices by several threads.
-    template <class At>
-    static QList<T> decodeSliced(qsizetype count, const At &at, const CodingPath &path)
-    {
-        QList<T> out(count);
-        T *items = out.data(); // no detaching while other threads write
-        codec::forEachSlice(count, [&](qsizetype from, qsizetype to) {
-            for (qsizetype i = from; i < to; ++i)
-                items[i] = Codec<T>::decode(at(i), path.index(i));
-        });
         return out;
     }
     static QJsonValue encode(const QList<T> &list)
